@@ -1,0 +1,28 @@
+#pragma once
+
+#include "core/Position.h"
+
+/// A piece without a ring steps onto an opponent one or two squares away along a row or column and
+/// pushes it on in the same direction.
+namespace brastel {
+
+enum class HitVerdict { Accepted, Refused, PushBack };
+
+/// Whether the hitter may hit the target now. PushBack when the target made the last hit, on this
+/// very hitter: the refusal that the player is told about, whatever else speaks against the hit.
+/// Pieces that do not exist or are on the same side are refused.
+HitVerdict CheckHit(Piece hitter, Piece target);
+
+/// The direction of a push from one square toward another of the same row or column (Left, Right,
+/// Up or Down), or 0 when they share neither or are the same.
+int PushDirection(int from, int to);
+
+/// True if the square `steps` beyond `square` in a direction lies on the board and is empty.
+bool IsFreeBeyond(int square, int direction, int steps);
+
+/// The hitter takes the target's square and pushes it two squares on when the second is free,
+/// otherwise one. A ring on the square stays and so changes hands. Precondition: one of the two
+/// squares is free in a straight line, as CheckHit makes sure of.
+void ApplyHit(Piece hitter, Piece target);
+
+}  // namespace brastel

@@ -1,0 +1,34 @@
+#pragma once
+
+#include "core/Position.h"
+
+/// A piece pushed off the field waits on an outside cell and steps back onto the field square next
+/// to it as soon as that square is empty and no opponent stands beside it.
+namespace brastel {
+
+/// One outside cell on which a pushed piece can come to rest.
+struct ReturnCell {
+    Int16 Cell;
+    /// The field square across the border, where the piece comes back.
+    Int16 Return;
+    /// The field squares beside the return square; an opponent on one keeps the piece out. The
+    /// third is NoSquare where the return square is a corner of the field.
+    std::array<Int16, 3> Guards;
+};
+
+constexpr int ReturnCellCount = 36;
+
+/// The cells in the order in which they are served. Two cells share each corner square of the
+/// field; the one in row 0 or 13 comes first and takes the square.
+extern const std::array<ReturnCell, ReturnCellCount> ReturnCells;
+
+/// Brings back every piece that may return, all judged on the field as it stood before.
+void ReturnOutsidePieces();
+
+/// The same for only those cells whose return or guard square is one of the given ones: an action
+/// can let a piece return only where it changed a square. Both squares are served in one pass,
+/// since a piece let in near the first must not keep out one near the second. Squares outside the
+/// field have no such cells.
+void ReturnOutsideNear(int square, int otherSquare = NoSquare);
+
+}  // namespace brastel

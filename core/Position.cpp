@@ -1,0 +1,24 @@
+#include "core/Position.h"
+
+namespace brastel {
+
+Position Pos;
+
+Int16 SquareOf(Piece piece) {
+    const bool exists = piece.Index >= 1 && piece.Index <= PieceCount(piece.Side);
+    return exists ? SquaresOf(piece.Side)[piece.Index] : ToInt16(NoSquare);
+}
+
+Piece PieceOn(int square) {
+    if (!IsOnBoard(square) || Pos.Board[square] == Empty) return {};
+    const Int16 side = Pos.Board[square];
+    return {side, FindAt(side, square)};
+}
+
+bool IsPieceAt(int x, int y) {
+    if (!IsBoardPoint(x, y) || SnapX(x) != x || SnapY(y) != y) return false;
+    const int square = SquareFromPoint(x, y);
+    return FindRedAt(square) != 0 || FindBlueAt(square) != 0;
+}
+
+}  // namespace brastel

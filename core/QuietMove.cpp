@@ -1,0 +1,54 @@
+#include "core/QuietMove.h"
+
+#include "core/Consistency.h"
+#include "core/Hit.h"
+#include "core/Opening.h"
+#include "core/PiecesOutside.h"
+#include "core/PlainMove.h"
+#include "core/RingPass.h"
+
+namespace brastel {
+
+namespace {
+
+bool CanPush(int origin, int destination) {
+    const int direction = PushDirection(origin, destination);
+    return direction != 0 && IsFreeBeyond(destination, direction, 1);
+}
+
+}  // namespace
+
+bool ActionFits(int origin, int destination) {
+    if (!BothRingsPlaced()) return IsOnBoard(origin);
+    if (origin == NoSquare && destination == NoSquare) return true;
+    if (!IsOnBoard(origin) || !IsOnBoard(destination)) return false;
+    if (Pos.Board[origin] != Pos.SideToMove) return false;
+    return Pos.Board[destination] != -Pos.SideToMove || CanPush(origin, destination);
+}
+
+void ApplyAction(int origin, int destination) {
+    if (!BothRingsPlaced()) return LayRing(origin);
+    const Piece actor = PieceOn(origin);
+    if (!actor) return;
+    const Piece other = PieceOn(destination);
+    if (!other) {
+        ApplyPlainMove(actor, destination);
+    } else if (other.Side == actor.Side) {
+        ApplyRingPass(actor, other);
+    } else {
+        ApplyHit(actor, other);
+    }
+}
+
+void ApplyMoveQuiet(int origin, int destination) {
+    assert(ActionFits(origin, destination));
+    const bool changesCells =
+        BothRingsPlaced() && Pos.Board[origin] != Empty && Pos.Board[destination] != Pos.SideToMove;
+    const bool isHit = changesCells && Pos.Board[destination] != Empty;
+    ApplyAction(origin, destination);
+    if (changesCells) ReturnOutsideNear(origin, isHit ? destination : NoSquare);
+    Pos.SideToMove = ToInt16(-Pos.SideToMove);
+    assert(PositionIsConsistent());
+}
+
+}  // namespace brastel

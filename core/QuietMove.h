@@ -1,0 +1,26 @@
+#pragma once
+
+#include "core/Position.h"
+
+/// Applying an action to the position alone: no view, no record, no win test.
+///
+/// An action is a pair of squares. What it means follows from the position: at MoveCount 1 and 2
+/// the ring of Red or Blue goes to the origin and the destination is not read; afterwards an empty
+/// destination makes a plain move, a friendly one a ring pass, an enemy one a hit. (0, 0) passes.
+namespace brastel {
+
+/// True if the action can be applied without breaking the position: a ring placement on the board,
+/// the null move, or a piece of the side to move acting on a board square, a hit with somewhere to
+/// push to. No rule beyond that is tested. Any numbers may be asked for.
+bool ActionFits(int origin, int destination);
+
+/// The changes of an action up to, but without, returns from outside and the turn. An origin
+/// without a piece, (0, 0) among them, changes nothing. Precondition: ActionFits.
+void ApplyAction(int origin, int destination);
+
+/// Applies the action, brings back pieces that it lets in, and passes the turn. The search calls
+/// this for every candidate, so only cells near changed squares are looked at. MoveCount stays.
+/// Precondition: ActionFits.
+void ApplyMoveQuiet(int origin, int destination);
+
+}  // namespace brastel

@@ -1,0 +1,17 @@
+#pragma once
+
+#include "core/Position.h"
+
+/// A ring goes from its carrier to a friendly piece at a diagonal or knight's-move distance, over
+/// any pieces between.
+namespace brastel {
+
+/// True if the passer may hand a ring to the receiver: both of the side to move, the receiver in
+/// the field and without a ring. The passer may wait outside. Pieces that do not exist are refused.
+bool CheckRingPass(Piece passer, Piece receiver);
+
+/// Hands the passer's ring over and forgets the last hit; ring 0 goes first should both rings lie
+/// on the passer's square.
+void ApplyRingPass(Piece passer, Piece receiver);
+
+}  // namespace brastel
