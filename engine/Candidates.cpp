@@ -1,0 +1,240 @@
+#include "engine/Candidates.h"
+
+#include "core/PlainMove.h"
+#include "core/Position.h"
+#include "core/WinTest.h"
+#include "engine/Evaluation.h"
+
+#include <span>
+
+namespace brastel {
+
+PlyTable<MoveCode> MoveList;
+PlyTable<double> MoveScores;
+Table<Int16, 0, MaxPly> CandidateCount;
+Table<double, 0, MaxPly> BestScore;
+
+namespace {
+
+// ---- The row being filled ----
+
+/// Entries beyond these are written before they are read.
+constexpr int ClearedEntries = 120;
+/// Stands for the parent where a row is to be complete.
+constexpr int NoParent = 0;
+
+struct Row {
+    int Ply;
+    int Parent;
+};
+
+void Clear(const Row& row) {
+    CandidateCount[row.Ply] = 0;
+    for (int n = 1; n <= ClearedEntries; ++n) {
+        MoveList[row.Ply][n] = 0;
+        MoveScores[row.Ply][n] = NoScore;
+    }
+    if (row.Parent != NoParent) BestScore[row.Ply] = NoScore;
+}
+
+int AddEntry(const Row& row, MoveCode code) {
+    const int n = ++CandidateCount[row.Ply];
+    MoveList[row.Ply][n] = code;
+    return n;
+}
+
+/// Scores and adds a candidate; false when the row need not be continued.
+bool Emit(const Row& row, int origin, int destination) {
+    const int n = AddEntry(row, EncodeMove(origin, destination));
+    const double value = ScoreMove(origin, destination);
+    MoveScores[row.Ply][n] = value;
+    if (row.Parent == NoParent || value <= BestScore[row.Ply]) return true;
+    BestScore[row.Ply] = value;
+    return !IsParentRefuted(row.Ply, row.Parent);
+}
+
+// ---- Ring placements ----
+
+/// The squares of the main line, and for 10 and 12 pieces the two pieces behind it.
+struct PlacementList {
+    Int16 Pieces;
+    std::array<Int16, 8> RedSquares;
+    std::array<Int16, 8> BlueSquares;
+};
+
+constexpr std::array<PlacementList, 6> PlacementLists{{
+    {2, {68, 69}, {44, 45}},
+    {4, {67, 68, 69, 70}, {43, 44, 45, 46}},
+    {6, {67, 68, 69, 70}, {43, 44, 45, 46}},
+    {8, {66, 67, 68, 69, 70, 71}, {42, 43, 44, 45, 46, 47}},
+    {10, {66, 67, 68, 69, 70, 71, 74, 79}, {42, 43, 44, 45, 46, 47, 34, 39}},
+    {12, {66, 67, 68, 69, 70, 71, 74, 79}, {42, 43, 44, 45, 46, 47, 34, 39}},
+}};
+constexpr Int16 BestReplyPieces = 8;
+
+/// By MoveCount, not by the side to move: the search looks at answers without counting on.
+void GeneratePlacements(const Row& row) {
+    const bool isRed = Pos.MoveCount == 1;
+    const Int16 count = isRed ? Pos.RedCount : Pos.BlueCount;
+    const Int16 pieces = row.Parent == NoParent ? count : BestReplyPieces;
+    const auto list = std::ranges::find(PlacementLists, pieces, &PlacementList::Pieces);
+    if (list == PlacementLists.end()) return;
+    for (const Int16 square : isRed ? list->RedSquares : list->BlueSquares) {
+        if (square != NoSquare) AddEntry(row, square);
+    }
+}
+
+// ---- Candidate places ----
+
+enum class Kind { Move, Hit, Pass, Slide, GoalEntry };
+
+/// One place relative to the acting piece, with the squares that must be empty on the way.
+struct Place {
+    int Offset;
+    Kind What;
+    PathGuards Guards;
+    /// One square on in the same direction: where a hit piece goes.
+    int Behind;
+};
+
+constexpr Place At(int columns, int rows, Kind what) {
+    const int direction = columns == 0 ? (rows > 0 ? Down : Up) : (columns > 0 ? Right : Left);
+    const int offset = columns * Right + rows * Down;
+    return {offset, what, GuardsOf(columns, rows), offset + direction};
+}
+
+constexpr Place SlideFrom(int direction, int leastSteps) {
+    return {direction * leastSteps, Kind::Slide, {}, direction};
+}
+
+/// Places of a piece without a ring, in generation order.
+constexpr std::array<Place, 34> PlainPlaces{{
+    SlideFrom(Up, 3),       SlideFrom(Down, 3),     At(-2, -2, Kind::Move), At(-1, -2, Kind::Move),
+    At(0, -2, Kind::Move),  At(0, -2, Kind::Hit),   At(1, -2, Kind::Move),  At(2, -2, Kind::Move),
+    At(-2, -1, Kind::Move), At(-1, -1, Kind::Move), At(0, -1, Kind::Move),  At(0, -1, Kind::Hit),
+    At(1, -1, Kind::Move),  At(2, -1, Kind::Move),  At(-2, 0, Kind::Move),  At(-2, 0, Kind::Hit),
+    At(-1, 0, Kind::Move),  At(-1, 0, Kind::Hit),   At(1, 0, Kind::Move),   At(1, 0, Kind::Hit),
+    At(2, 0, Kind::Move),   At(2, 0, Kind::Hit),    At(-2, 1, Kind::Move),  At(-1, 1, Kind::Move),
+    At(0, 1, Kind::Move),   At(0, 1, Kind::Hit),    At(1, 1, Kind::Move),   At(2, 1, Kind::Move),
+    At(-2, 2, Kind::Move),  At(-1, 2, Kind::Move),  At(0, 2, Kind::Move),   At(0, 2, Kind::Hit),
+    At(1, 2, Kind::Move),   At(2, 2, Kind::Move),
+}};
+
+/// Places of a ring carrier, in generation order.
+constexpr std::array<Place, 23> CarrierPlaces{{
+    {0, Kind::GoalEntry, {}, 0}, SlideFrom(Up, 2),       SlideFrom(Down, 2),
+    At(-1, -2, Kind::Pass),      At(1, -2, Kind::Pass),  At(-2, -1, Kind::Pass),
+    At(-1, -1, Kind::Move),      At(-1, -1, Kind::Pass), At(0, -1, Kind::Move),
+    At(1, -1, Kind::Move),       At(1, -1, Kind::Pass),  At(2, -1, Kind::Pass),
+    At(-1, 0, Kind::Move),       At(1, 0, Kind::Move),   At(-2, 1, Kind::Pass),
+    At(-1, 1, Kind::Move),       At(-1, 1, Kind::Pass),  At(0, 1, Kind::Move),
+    At(1, 1, Kind::Move),        At(1, 1, Kind::Pass),   At(2, 1, Kind::Pass),
+    At(-1, 2, Kind::Pass),       At(1, 2, Kind::Pass),
+}};
+
+// ---- Which of the places are candidates ----
+
+bool AreGuardsEmpty(int square, const PathGuards& guards) {
+    for (int i = 0; i < guards.Count; ++i) {
+        if (Pos.Board[square + guards.Offset[static_cast<std::size_t>(i)]] != Empty) return false;
+    }
+    return true;
+}
+
+bool IsHitOnLastHitter(Int16 piece, int target) {
+    return Pos.LastHit[1] == piece && Pos.LastHit[0] == FindAt(-Pos.SideToMove, target);
+}
+
+bool IsHit(Int16 piece, int square, const Place& place) {
+    const int target = square + place.Offset;
+    if (Pos.Board[target] != -Pos.SideToMove || !AreGuardsEmpty(square, place.Guards)) return false;
+    const bool fromTwoAway = place.Guards.Count > 0;
+    if (fromTwoAway && IsRingSquare(target)) return false;
+    return Pos.Board[square + place.Behind] == Empty && !IsHitOnLastHitter(piece, target);
+}
+
+/// Where a slide ends: the square before the first piece in the column, when that piece is a friend
+/// (it may wait outside) and at least the least number of steps away; otherwise NoSquare.
+int SlideTarget(int square, const Place& slide) {
+    const int direction = slide.Behind;
+    const int nearest = square + slide.Offset;
+    if (!InField(nearest)) return NoSquare;
+    int next = square + direction;
+    while (IsOnBoard(next) && Pos.Board[next] == Empty) next += direction;
+    const int target = next - direction;
+    const bool isFarEnough = direction == Up ? target <= nearest : target >= nearest;
+    return IsOnBoard(next) && isFarEnough && Pos.Board[next] == Pos.SideToMove ? target : NoSquare;
+}
+
+/// Always the same goal square of the two, whatever stands on it.
+int GoalEntryTarget(int square) {
+    return IsGoalFront(Pos.SideToMove, square) ? GoalSquare(Pos.SideToMove) : NoSquare;
+}
+
+/// The candidate destination of a place for a piece, or NoSquare.
+int TargetOf(Int16 piece, int square, const Place& place) {
+    if (place.What == Kind::Slide) return SlideTarget(square, place);
+    if (place.What == Kind::GoalEntry) return GoalEntryTarget(square);
+    const int target = square + place.Offset;
+    if (!InField(target)) return NoSquare;
+    const Int16 cell = Pos.Board[target];
+    bool accepted = false;
+    switch (place.What) {
+        case Kind::Move:
+            accepted = cell == Empty && AreGuardsEmpty(square, place.Guards);
+            break;
+        case Kind::Pass:
+            accepted = cell == Pos.SideToMove && !IsRingSquare(target);
+            break;
+        default:
+            accepted = IsHit(piece, square, place);
+    }
+    return accepted ? target : NoSquare;
+}
+
+bool EmitPiece(const Row& row, Int16 piece, int square) {
+    const auto places = IsRingSquare(square) ? std::span<const Place>(CarrierPlaces)
+                                             : std::span<const Place>(PlainPlaces);
+    for (const Place& place : places) {
+        const int target = TargetOf(piece, square, place);
+        if (target != NoSquare && !Emit(row, square, target)) return false;
+    }
+    return true;
+}
+
+void GenerateRow(const Row& row) {
+    Clear(row);
+    if (!BothRingsPlaced()) return GeneratePlacements(row);
+    const PieceSquares& squares = SquaresOf(Pos.SideToMove);
+    const int count = PieceCount(Pos.SideToMove);
+    for (int piece = 1; piece <= count; ++piece) {
+        if (!InField(squares[piece])) continue;
+        if (!EmitPiece(row, ToInt16(piece), squares[piece])) return;
+    }
+}
+
+}  // namespace
+
+void GenerateMoves(int ply) { GenerateRow({ply, NoParent}); }
+
+void GenerateBestReply(int ply, int parent) { GenerateRow({ply, parent}); }
+
+bool IsParentRefuted(int ply, int parent) {
+    return MoveScores[ply - 1][parent] / Discount - BestScore[ply] < BestScore[ply - 1];
+}
+
+void SortCandidates(int ply) {
+    auto& codes = MoveList[ply];
+    auto& scores = MoveScores[ply];
+    const int count = CandidateCount[ply];
+    for (int first = 1; first <= count; ++first) {
+        int best = first;
+        for (int n = first + 1; n <= count; ++n) {
+            if (scores[n] > scores[best]) best = n;
+        }
+        std::swap(scores[first], scores[best]);
+        std::swap(codes[first], codes[best]);
+    }
+}
+
+}  // namespace brastel
