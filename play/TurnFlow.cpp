@@ -1,0 +1,86 @@
+#include "play/TurnFlow.h"
+
+#include "core/QuietMove.h"
+#include "engine/Candidates.h"
+#include "engine/Search.h"
+#include "play/DisplayedMove.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "play/GameView.h"
+
+#include <chrono>
+
+namespace brastel {
+
+namespace {
+
+/// Long enough for the window to draw "Thinking ..." and the busy cursor.
+constexpr float PauseBeforeSearch = 0.05F;
+
+struct Action {
+    Int16 Origin;
+    Int16 Destination;
+};
+
+/// What a chosen code stands for where it can be played: a goal entry onto an opponent waiting in
+/// the goal cannot, and becomes a pass.
+Action ActionOf(MoveCode code) {
+    const Action action{OriginOf(code), DestinationOf(code)};
+    const bool isWithoutPlacement = !BothRingsPlaced() && action.Origin == NoSquare;
+    if (isWithoutPlacement) return {SquareOf({Pos.SideToMove, 1}), 0};
+    return ActionFits(action.Origin, action.Destination) ? action : Action{0, 0};
+}
+
+bool IsComputersTurn() {
+    return Pos.SideToMove == ComputerSide && Level != TwoPlayerLevel && GameOver == False;
+}
+
+}  // namespace
+
+void PauseWithEvents(float seconds) {
+    using Clock = std::chrono::steady_clock;
+    const auto end = Clock::now() + std::chrono::duration<float>(seconds);
+    while (Clock::now() < end) View->HandleEvents();
+}
+
+Int16 ChooseMove(Int16 depth) {
+    IsThinking = true;
+    ShowStatus(ThinkingText);
+    View->ShowBusy(true);
+    PauseWithEvents(PauseBeforeSearch);
+    const Int16 chosen = View->IsClosing() ? Int16{0} : ChooseCandidate(depth);
+    // What the user did during the search is handled now, while it is still ignored.
+    View->HandleEvents();
+    View->ShowBusy(false);
+    IsThinking = false;
+    return chosen;
+}
+
+bool PlayChosenMove(Int16 depth) {
+    if (IsRecordFull()) return false;
+    const Int16 index = ChooseMove(depth);
+    if (View->IsClosing()) return false;
+    const Action action = ActionOf(MoveList[1][index]);
+    if (!ActionFits(action.Origin, action.Destination)) {
+        ShowStatus(BlankText);
+        return false;
+    }
+    ApplyMoveShown(action.Origin, action.Destination);
+    CountEntry();
+    ShowBackward(true);
+    return true;
+}
+
+bool ComputerMove() {
+    if (!PlayChosenMove(Level)) return false;
+    ShowForward(false);
+    return true;
+}
+
+void RunComputerTurns(bool checkWin) {
+    while (IsComputersTurn() && ComputerMove()) {
+        if (checkWin) CheckWin();
+    }
+}
+
+}  // namespace brastel
