@@ -1,0 +1,164 @@
+#include "ui/Bead.h"
+
+#include <QBrush>
+#include <QColor>
+#include <QPainter>
+#include <QPointF>
+#include <QRadialGradient>
+
+#include <array>
+#include <cstddef>
+
+namespace brastel {
+namespace {
+
+constexpr QRgb Ground = qRgb(192, 192, 192);
+constexpr qreal MaxDeviceEdge = 4096.0;
+constexpr QPointF Centre(BeadEdge / 2, BeadEdge / 2);
+
+struct Stop {
+    qreal at;
+    QRgb color;
+};
+
+/// An ellipse of light or shade, turned about its centre, whose gradient runs from the centre (0)
+/// to the outline (1).
+struct Spot {
+    QPointF centre;
+    qreal radiusX;
+    qreal radiusY;
+    qreal degrees;
+};
+
+/// The colours in which the two kinds of glass differ.
+struct Glass {
+    std::array<Stop, 7> body;
+    std::array<Stop, 5> depth;
+    std::array<Stop, 5> caustic;
+};
+
+// The body is flat at the main colour around the centre, and every other layer stays clear of
+// that disc, so the middle of a bead has its pure colour at any size.
+constexpr Glass MagentaGlass = {
+    {{{0.00, qRgb(255, 7, 255)},
+      {0.40, qRgb(255, 7, 255)},
+      {0.60, qRgb(248, 4, 249)},
+      {0.76, qRgb(226, 0, 230)},
+      {0.90, qRgb(170, 0, 184)},
+      {0.97, qRgb(108, 0, 126)},
+      {1.00, qRgb(78, 0, 98)}}},
+    {{{0.00, qRgba(96, 0, 128, 0)},
+      {0.48, qRgba(96, 0, 128, 0)},
+      {0.64, qRgba(96, 0, 128, 22)},
+      {0.80, qRgba(92, 0, 124, 86)},
+      {1.00, qRgba(70, 0, 100, 195)}}},
+    {{{0.00, qRgba(255, 214, 255, 235)},
+      {0.25, qRgba(255, 204, 255, 205)},
+      {0.50, qRgba(255, 176, 255, 120)},
+      {0.75, qRgba(255, 150, 255, 36)},
+      {1.00, qRgba(255, 130, 255, 0)}}},
+};
+
+constexpr Glass CyanGlass = {
+    {{{0.00, qRgb(7, 255, 255)},
+      {0.40, qRgb(7, 255, 255)},
+      {0.60, qRgb(4, 246, 249)},
+      {0.76, qRgb(0, 218, 230)},
+      {0.90, qRgb(0, 158, 188)},
+      {0.97, qRgb(0, 94, 132)},
+      {1.00, qRgb(0, 66, 104)}}},
+    {{{0.00, qRgba(0, 96, 140, 0)},
+      {0.48, qRgba(0, 96, 140, 0)},
+      {0.64, qRgba(0, 96, 140, 22)},
+      {0.80, qRgba(0, 92, 136, 86)},
+      {1.00, qRgba(0, 64, 112, 195)}}},
+    {{{0.00, qRgba(230, 255, 255, 240)},
+      {0.25, qRgba(222, 255, 255, 212)},
+      {0.50, qRgba(196, 255, 255, 128)},
+      {0.75, qRgba(170, 255, 255, 40)},
+      {1.00, qRgba(150, 255, 255, 0)}}},
+};
+
+constexpr std::array<Stop, 4> ShadowStops = {{{0.00, qRgba(0, 0, 0, 120)},
+                                              {0.88, qRgba(0, 0, 0, 120)},
+                                              {0.95, qRgba(0, 0, 0, 50)},
+                                              {1.00, qRgba(0, 0, 0, 0)}}};
+
+constexpr std::array<Stop, 3> HaloStops = {{{0.00, qRgba(255, 255, 255, 150)},
+                                            {0.50, qRgba(255, 255, 255, 70)},
+                                            {1.00, qRgba(255, 255, 255, 0)}}};
+
+constexpr std::array<Stop, 3> GlintStops = {{{0.00, qRgba(255, 255, 255, 255)},
+                                             {0.70, qRgba(255, 255, 255, 250)},
+                                             {1.00, qRgba(255, 255, 255, 170)}}};
+
+constexpr Spot Shadow = {{45.3, 46.2}, 38.2, 38.2, 0};
+constexpr Spot Body = {Centre, BeadRadius, BeadRadius, 0};
+constexpr Spot Caustic = {{53.5, 64.5}, 23.5, 11.5, -25};
+constexpr Spot Halo = {{31.0, 28.0}, 14.0, 10.0, -42};
+constexpr Spot Glint = {{30.5, 27.0}, 7.6, 4.6, -42};
+
+// The light comes from the upper left and gathers at the lower right, so the glass looks deepest
+// away from that gathering point.
+constexpr QPointF DepthCentre(49.0, 52.5);
+constexpr qreal DepthRadius = 48.5;
+
+const Glass& GlassOf(int side) { return side == 1 ? CyanGlass : MagentaGlass; }
+
+template <std::size_t N>
+QBrush RadialBrush(QPointF centre, qreal radius, const std::array<Stop, N>& stops) {
+    QRadialGradient gradient(centre, radius);
+    for (const Stop& stop : stops) gradient.setColorAt(stop.at, QColor::fromRgba(stop.color));
+    return gradient;
+}
+
+template <std::size_t N>
+void PaintSpot(QPainter& painter, const Spot& spot, const std::array<Stop, N>& stops) {
+    painter.save();
+    painter.translate(spot.centre);
+    painter.rotate(spot.degrees);
+    painter.scale(spot.radiusX, spot.radiusY);
+    painter.setBrush(RadialBrush({0, 0}, 1, stops));
+    painter.drawEllipse(QPointF(0, 0), 1, 1);
+    painter.restore();
+}
+
+template <std::size_t N>
+void PaintDepth(QPainter& painter, const std::array<Stop, N>& stops) {
+    painter.setBrush(RadialBrush(DepthCentre, DepthRadius, stops));
+    painter.drawEllipse(Centre, BeadRadius, BeadRadius);
+}
+
+}  // namespace
+
+void PaintBead(QPainter& painter, int side) {
+    if (!painter.isActive()) return;
+    const Glass& glass = GlassOf(side);
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(Qt::NoPen);
+    PaintSpot(painter, Shadow, ShadowStops);
+    PaintSpot(painter, Body, glass.body);
+    PaintDepth(painter, glass.depth);
+    PaintSpot(painter, Caustic, glass.caustic);
+    PaintSpot(painter, Halo, HaloStops);
+    PaintSpot(painter, Glint, GlintStops);
+    painter.restore();
+}
+
+QPixmap BeadPicture(int side, int size, qreal ratio) {
+    // Written so that a ratio that is not a number fails the test as well.
+    if (size < 1 || !(ratio > 0) || !(size * ratio <= MaxDeviceEdge)) return {};
+    const int edge = qMax(1, qRound(size * ratio));
+    QPixmap picture(edge, edge);
+    picture.fill(QColor::fromRgb(Ground));
+    QPainter painter(&picture);
+    painter.scale(edge / BeadEdge, edge / BeadEdge);
+    PaintBead(painter, side);
+    painter.end();
+    // Only now: while painting, one unit is to be one device pixel.
+    picture.setDevicePixelRatio(ratio);
+    return picture;
+}
+
+}  // namespace brastel

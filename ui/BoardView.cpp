@@ -1,0 +1,135 @@
+#include "ui/BoardView.h"
+
+#include "ui/Bead.h"
+#include "ui/Layout.h"
+
+#include <QPaintEvent>
+#include <QPainter>
+
+#include <array>
+
+namespace brastel {
+
+namespace {
+
+constexpr QColor LineColor(0, 0, 0);
+constexpr int FieldLineWidth = 3;
+constexpr int CircleWidth = 5;
+
+struct Line {
+    QPoint From;
+    QPoint To;
+};
+
+/// line_Board: the centre line and the border, which leaves the goal mouths open.
+constexpr std::array<Line, 7> FieldLines{{
+    {{60, 300}, {300, 300}},
+    {{60, 60}, {60, 540}},
+    {{300, 60}, {300, 540}},
+    {{60, 60}, {140, 60}},
+    {{220, 60}, {300, 60}},
+    {{60, 540}, {140, 540}},
+    {{220, 540}, {300, 540}},
+}};
+
+constexpr QRect BoardBorder(BoardLeft, BoardTop, BoardWidth, BoardHeight);
+/// shp_Circle, Red's and Blue's.
+constexpr QRect RedCircle = TwipRect{7920, 2760, 612, 612}.InPixels();
+constexpr QRect BlueCircle = TwipRect{8760, 2760, 612, 612}.InPixels();
+/// Shape1.
+constexpr QRect MessageFrame = TwipRect{7440, 5160, 2532, 612}.InPixels();
+
+/// A rectangle outline one pixel wide. Filled rectangles fall on whole device pixels at every
+/// ratio; drawn lines do not.
+void PaintOutline(QPainter& painter, const QRect& rect) {
+    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 1), LineColor);
+    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), LineColor);
+    painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height()), LineColor);
+    painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), LineColor);
+}
+
+/// shp_board: neighbours share a line.
+void PaintSquares(QPainter& painter) {
+    for (int square = FirstSquare; square <= LastSquare; ++square) {
+        if (!InField(square)) continue;
+        PaintOutline(painter, {SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1});
+    }
+}
+
+void PaintFieldLines(QPainter& painter) {
+    constexpr int Half = FieldLineWidth / 2;
+    for (const Line& line : FieldLines) {
+        const QRect path(line.From, line.To);
+        painter.fillRect(path.adjusted(-Half, -Half, Half, Half), LineColor);
+    }
+}
+
+/// A circle outline whose outer edge touches the rectangle from inside.
+void PaintCircle(QPainter& painter, const QRect& rect) {
+    constexpr qreal Half = CircleWidth / 2.0;
+    painter.save();
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setPen(QPen(LineColor, CircleWidth));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawEllipse(QRectF(rect).adjusted(Half, Half, -Half, -Half));
+    painter.restore();
+}
+
+/// shp_Ring, above the pieces: nothing else shows who carries a ring.
+void PaintRings(QPainter& painter) {
+    for (const Int16 square : Pos.RingSquare) {
+        PaintCircle(painter, {SquareLeft(square), SquareTop(square), CellSize, CellSize});
+    }
+}
+
+}  // namespace
+
+BoardView::BoardView(QWidget* parent) : QWidget(parent) {
+    setObjectName("Form");
+    setFocusPolicy(Qt::ClickFocus);
+    setAttribute(Qt::WA_OpaquePaintEvent);
+}
+
+void BoardView::ShowTurn(Int16 side) {
+    Turn = side;
+    update(RedCircle);
+    update(BlueCircle);
+}
+
+Piece BoardView::PieceAt(QPoint point) {
+    if (!IsBoardPoint(point.x(), point.y())) return {};
+    return PieceOn(SquareFromPoint(point.x(), point.y()));
+}
+
+const QPixmap& BoardView::BeadOf(int side) {
+    QPixmap& bead = side == Red ? RedBead : BlueBead;
+    if (bead.isNull() || bead.devicePixelRatio() != devicePixelRatioF()) {
+        bead = BeadPicture(side, CellSize, devicePixelRatioF());
+    }
+    return bead;
+}
+
+void BoardView::PaintPieces(QPainter& painter) {
+    for (const Int16 side : {Red, Blue}) {
+        for (int i = 1; i <= PieceCount(side); ++i) {
+            const int square = SquaresOf(side)[i];
+            if (square == NoSquare) continue;
+            painter.drawPixmap(SquareLeft(square), SquareTop(square), BeadOf(side));
+        }
+    }
+}
+
+/// Lines lie above the pieces' grey ground, which would cut into them.
+void BoardView::paintEvent(QPaintEvent* event) {
+    QPainter painter(this);
+    painter.fillRect(event->rect(), WindowGround);
+    PaintPieces(painter);
+    PaintOutline(painter, BoardBorder);
+    PaintSquares(painter);
+    PaintFieldLines(painter);
+    PaintRings(painter);
+    PaintCircle(painter, Turn == Red ? RedCircle : BlueCircle);
+    PaintOutline(painter, MessageFrame);
+}
+
+}  // namespace brastel

@@ -1,0 +1,194 @@
+#include "ui/MainWindow.h"
+
+#include "core/Position.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "play/Hint.h"
+#include "play/HumanAction.h"
+#include "ui/BoardView.h"
+#include "ui/Icon.h"
+#include "ui/Layout.h"
+#include "ui/Menus.h"
+#include "ui/MouseInput.h"
+#include "ui/PieceNumberDialog.h"
+
+#include <QApplication>
+#include <QCloseEvent>
+#include <QMenuBar>
+
+namespace brastel {
+
+namespace {
+
+constexpr int InnerWidth = 11160;
+constexpr int InnerHeight = 9336;
+
+constexpr TwipRect ForwardPlace{8880, 3960, 1212, 492};
+constexpr TwipRect BackwardPlace{8880, 4440, 1215, 495};
+constexpr TwipRect MessagePlace{7560, 5280, 2292, 372};
+constexpr TwipRect HintPlace{8400, 5880, 972, 372};
+constexpr TwipRect UndoPlace{7320, 5880, 972, 372};
+constexpr std::array<TwipRect, 2> ScorePlaces{{{7920, 3480, 612, 252}, {8880, 3480, 612, 252}}};
+
+bool IsUserInput(QEvent::Type type) {
+    switch (type) {
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonRelease:
+        case QEvent::MouseButtonDblClick:
+        case QEvent::Wheel:
+        case QEvent::KeyPress:
+        case QEvent::KeyRelease:
+        case QEvent::Shortcut:
+        case QEvent::ShortcutOverride:
+        case QEvent::ContextMenu:
+        case QEvent::TouchBegin:
+        case QEvent::TouchUpdate:
+        case QEvent::TouchEnd:
+            return true;
+        default:
+            return false;
+    }
+}
+
+QPushButton* NewButton(QWidget* parent, const QString& name, const QString& caption,
+                       const TwipRect& place) {
+    auto* button = new QPushButton(caption, parent);
+    PlaceControl(*button, name, place);
+    return button;
+}
+
+template <std::size_t Count>
+void FillHidden(std::array<QLineEdit*, Count>& boxes, QWidget* parent, const QString& name) {
+    for (std::size_t i = 0; i < Count; ++i) {
+        boxes[i] = new QLineEdit(parent);
+        boxes[i]->setObjectName(name + QString::number(i));
+        boxes[i]->setEnabled(false);
+        boxes[i]->hide();
+    }
+}
+
+}  // namespace
+
+MainWindow::MainWindow() {
+    BuildWindow();
+    BuildSidePanel();
+    BuildHiddenControls();
+    Levels = BuildMenus(*this);
+    FixInnerArea(*this, InnerWidth, InnerHeight, menuBar()->sizeHint().height());
+    ConnectInput();
+    SetView(this);
+    qApp->installEventFilter(this);
+}
+
+MainWindow::~MainWindow() { SetView(nullptr); }
+
+void MainWindow::BuildWindow() {
+    setObjectName("frm_Tamber");
+    setWindowTitle("Brastel");
+    setWindowIcon(ApplicationIcon());
+    setWindowFlags(Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint |
+                   Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
+                   Qt::WindowCloseButtonHint);
+    QPalette colors = palette();
+    colors.setColor(QPalette::Window, WindowGround);
+    colors.setColor(QPalette::WindowText, Qt::black);
+    setPalette(colors);
+    Form = new BoardView(this);
+    setCentralWidget(Form);
+}
+
+void MainWindow::BuildSidePanel() {
+    btn_Forward = NewButton(Form, "btn_Forward", "Forward", ForwardPlace);
+    btn_Backward = NewButton(Form, "btn_Backward", "Backward", BackwardPlace);
+    btn_Hint = NewButton(Form, "btn_Hint", "Hint", HintPlace);
+    lbl_Message = new QLabel(Form);
+    PlaceControl(*lbl_Message, "lbl_Message", MessagePlace);
+}
+
+/// Controls that belong to the window but are never shown.
+void MainWindow::BuildHiddenControls() {
+    NewButton(Form, "btn_Undo", "Undo", UndoPlace)->hide();
+    for (std::size_t i = 0; i < ScorePlaces.size(); ++i) {
+        auto* score = new QLabel(Form);
+        PlaceControl(*score, QString("lbl_Score%1").arg(i), ScorePlaces[i]);
+        score->hide();
+    }
+    FillHidden(Text1, Form, "Text1_");
+    FillHidden(Text2, Form, "Text2_");
+}
+
+void MainWindow::ConnectInput() {
+    Mouse = new MouseInput(Form);
+    connect(Mouse, &MouseInput::Form_DragDrop, DropOnBoard);
+    connect(Mouse, &MouseInput::Piece_DragDrop, DropOnPiece);
+    connect(Mouse, &MouseInput::Piece_DblClick, DoubleClickPiece);
+    connect(Mouse, &MouseInput::Form_MouseUp, ClickBoard);
+    connect(btn_Forward, &QPushButton::clicked, StepForward);
+    connect(btn_Backward, &QPushButton::clicked, StepBack);
+    connect(btn_Hint, &QPushButton::clicked, Hint);
+}
+
+void MainWindow::OpenMainWindow() {
+    CentreOnScreen(*this);
+    OpenGame();
+    CheckLevel(*Levels, Level);
+    show();
+}
+
+void MainWindow::ChangePieceNumberCommand() {
+    hide();
+    PieceNumberDialog().exec();
+    OpenMainWindow();
+}
+
+void MainWindow::ExitCommand() { close(); }
+
+void MainWindow::PlacePieces() { Form->update(); }
+
+void MainWindow::ShowMessage(std::string_view text) {
+    lbl_Message->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+}
+
+void MainWindow::ShowTurn(Int16 side) { Form->ShowTurn(side); }
+
+void MainWindow::Beep() { QApplication::beep(); }
+
+void MainWindow::ShowForward(bool visible) { btn_Forward->setVisible(visible); }
+
+void MainWindow::ShowBackward(bool visible) { btn_Backward->setVisible(visible); }
+
+void MainWindow::ShowBusy(bool busy) {
+    if (busy) {
+        Mouse->Cancel();
+        QApplication::setOverrideCursor(Qt::WaitCursor);
+    } else {
+        QApplication::restoreOverrideCursor();
+    }
+}
+
+void MainWindow::HandleEvents() {
+    constexpr int Milliseconds = 10;
+    QCoreApplication::processEvents(QEventLoop::AllEvents, Milliseconds);
+}
+
+void MainWindow::ShowBoardTexts() {
+    for (int square = FirstSquare; square <= LastSquare; ++square) {
+        Text1[static_cast<std::size_t>(square)]->setText(QString::number(Pos.Board[square]));
+    }
+}
+
+void MainWindow::ShowCandidateCount(Int16 count) { Text2[0]->setText(QString::number(count)); }
+
+/// Also in the middle of a computer move: the window disappears, the move is not played, and the
+/// program ends when the event loop is reached.
+void MainWindow::closeEvent(QCloseEvent* event) {
+    Closing = true;
+    event->accept();
+    QCoreApplication::quit();
+}
+
+bool MainWindow::eventFilter(QObject* /*watched*/, QEvent* event) {
+    return IsThinking && IsUserInput(event->type());
+}
+
+}  // namespace brastel

@@ -1,0 +1,75 @@
+#pragma once
+
+#include "play/GameView.h"
+
+#include <QActionGroup>
+#include <QLabel>
+#include <QLineEdit>
+#include <QMainWindow>
+#include <QPushButton>
+
+#include <array>
+
+namespace brastel {
+
+class BoardView;
+class MouseInput;
+
+/// frm_Tamber, the program's one working window, and the view that the game speaks to while it
+/// lives.
+class MainWindow final : public QMainWindow, public GameView {
+public:
+    MainWindow();
+    ~MainWindow() override;
+    MainWindow(const MainWindow&) = delete;
+    MainWindow& operator=(const MainWindow&) = delete;
+
+    /// Shows the window as new: centred, a new game with the pieces and layout in force, lowest
+    /// strength.
+    void OpenMainWindow();
+
+    // ---- Menu commands that open windows ----
+    /// Takes the window down, lets the user choose a layout, and opens it again.
+    void ChangePieceNumberCommand();
+    /// Closes the window, which ends the program.
+    void ExitCommand();
+
+    // ---- GameView ----
+    void PlacePieces() override;
+    void ShowMessage(std::string_view text) override;
+    void ShowTurn(Int16 side) override;
+    void Beep() override;
+    void ShowForward(bool visible) override;
+    void ShowBackward(bool visible) override;
+    void ShowBusy(bool busy) override;
+    void HandleEvents() override;
+    bool IsClosing() const override { return Closing; }
+    void ShowBoardTexts() override;
+    void ShowCandidateCount(Int16 count) override;
+
+protected:
+    void closeEvent(QCloseEvent* event) override;
+    /// Drops what the user does while the computer thinks, wherever in the program it arrives.
+    bool eventFilter(QObject* watched, QEvent* event) override;
+
+private:
+    void BuildWindow();
+    void BuildSidePanel();
+    void BuildHiddenControls();
+    void ConnectInput();
+
+    BoardView* Form = nullptr;
+    MouseInput* Mouse = nullptr;
+    QActionGroup* Levels = nullptr;
+    bool Closing = false;
+
+    QPushButton* btn_Forward = nullptr;
+    QPushButton* btn_Backward = nullptr;
+    QPushButton* btn_Hint = nullptr;
+    QLabel* lbl_Message = nullptr;
+    /// Text boxes never seen: they mirror the cells and the candidate count.
+    std::array<QLineEdit*, 113> Text1{};
+    std::array<QLineEdit*, 33> Text2{};
+};
+
+}  // namespace brastel

@@ -1,0 +1,86 @@
+#include "ui/Menus.h"
+
+#include "engine/Strengths.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "ui/MainWindow.h"
+
+#include <QMenuBar>
+
+#include <span>
+
+namespace brastel {
+
+namespace {
+
+/// One item; a separator has no command.
+struct MenuItem {
+    const char* Name;
+    const char* Caption;
+    void (*Command)(MainWindow&);
+};
+
+constexpr MenuItem OptionsItems[] = {
+    {"mnu_NewGame", "&New Game", [](MainWindow&) { NewGameCommand(); }},
+    {"mnu_SizeSep", "-", nullptr},
+    {"mnu_GameSize", "&Change Piece Number",
+     [](MainWindow& window) { window.ChangePieceNumberCommand(); }},
+    {"mnu_ExitSep", "-", nullptr},
+    {"mnu_Exit", "E&xit", [](MainWindow& window) { window.ExitCommand(); }},
+};
+
+QMenu* AddMenu(MainWindow& window, const char* name, const char* caption) {
+    QMenu* menu = window.menuBar()->addMenu(caption);
+    menu->setObjectName(name);
+    return menu;
+}
+
+void AddSeparator(QMenu& menu, const char* name) { menu.addSeparator()->setObjectName(name); }
+
+void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) {
+    for (const MenuItem& item : items) {
+        if (item.Command == nullptr) {
+            AddSeparator(menu, item.Name);
+            continue;
+        }
+        QAction* action = menu.addAction(item.Caption);
+        action->setObjectName(item.Name);
+        QObject::connect(action, &QAction::triggered, &window,
+                         [&window, command = item.Command] { command(window); });
+    }
+}
+
+void AddLevel(QMenu& menu, QActionGroup& levels, std::string_view name, std::string_view caption,
+              Int16 level) {
+    QAction* action = menu.addAction(QString::fromUtf8(caption.data()));
+    action->setObjectName(QString::fromUtf8(name.data()));
+    action->setCheckable(true);
+    action->setData(level);
+    levels.addAction(action);
+    QObject::connect(action, &QAction::triggered, [level] { SetLevel(level); });
+}
+
+QActionGroup* AddLevels(QMenu& menu) {
+    auto* levels = new QActionGroup(&menu);
+    AddLevel(menu, *levels, "mnu_TwoPlayer", "&Two Player", TwoPlayerLevel);
+    AddSeparator(menu, "mnu_TwoSep");
+    for (const Strength& strength : Strengths) {
+        AddLevel(menu, *levels, strength.Item, strength.Caption, strength.Depth);
+    }
+    return levels;
+}
+
+}  // namespace
+
+QActionGroup* BuildMenus(MainWindow& window) {
+    AddItems(*AddMenu(window, "mnu_Options", "&Options"), window, OptionsItems);
+    return AddLevels(*AddMenu(window, "mnu_Level", "&Level"));
+}
+
+void CheckLevel(const QActionGroup& levels, Int16 level) {
+    for (QAction* action : levels.actions()) {
+        if (action->data().toInt() == level) action->setChecked(true);
+    }
+}
+
+}  // namespace brastel

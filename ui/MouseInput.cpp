@@ -1,0 +1,138 @@
+#include "ui/MouseInput.h"
+
+#include "ui/BoardView.h"
+
+#include <QKeyEvent>
+#include <QMouseEvent>
+#include <QPainter>
+
+namespace brastel {
+
+namespace {
+
+/// The moving outline of a dragged piece. A widget of its own, above the controls too, so that Qt
+/// repaints what it leaves behind.
+class DragOutline : public QWidget {
+public:
+    explicit DragOutline(QWidget* parent) : QWidget(parent) {
+        setObjectName("DragOutline");
+        setAttribute(Qt::WA_TransparentForMouseEvents);
+        resize(CellSize, CellSize);
+        hide();
+    }
+
+protected:
+    void paintEvent(QPaintEvent* /*event*/) override {
+        QPainter painter(this);
+        painter.fillRect(0, 0, width(), 1, Qt::black);
+        painter.fillRect(0, height() - 1, width(), 1, Qt::black);
+        painter.fillRect(0, 0, 1, height(), Qt::black);
+        painter.fillRect(width() - 1, 0, 1, height(), Qt::black);
+    }
+};
+
+/// The logical pixel that holds the pointer; rounding would push it over a square's edge.
+QPoint PixelOf(const QMouseEvent& event) {
+    return {qFloor(event.position().x()), qFloor(event.position().y())};
+}
+
+bool IsFormPoint(const QWidget& form, QPoint point) {
+    return form.rect().contains(point) && form.childAt(point) == nullptr;
+}
+
+}  // namespace
+
+MouseInput::MouseInput(QWidget* view) : QObject(view), Form(view), Outline(new DragOutline(view)) {
+    Form->installEventFilter(this);
+}
+
+void MouseInput::Cancel() {
+    Current = Gesture::None;
+    Outline->hide();
+}
+
+bool MouseInput::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::MouseButtonPress:
+            Press(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseButtonDblClick:
+            DoubleClick(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseMove:
+            Move(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::MouseButtonRelease:
+            Release(static_cast<QMouseEvent&>(*event));
+            return true;
+        case QEvent::KeyPress:
+            if (static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape) Cancel();
+            return false;
+        case QEvent::FocusOut:
+        case QEvent::WindowDeactivate:
+        case QEvent::Hide:
+            Cancel();
+            return false;
+        default:
+            return false;
+    }
+}
+
+void MouseInput::Press(const QMouseEvent& event) {
+    if (Current != Gesture::None) return;
+    const QPoint point = PixelOf(event);
+    Button = event.button();
+    Pressed = BoardView::PieceAt(point);
+    Current = Pressed ? Gesture::Drag : Gesture::Click;
+    if (!Pressed) return;
+    const int square = SquareOf(Pressed);
+    Grip = point - QPoint(SquareLeft(square), SquareTop(square));
+    // The keyboard must reach the form, or Escape would not end the drag.
+    Form->setFocus(Qt::MouseFocusReason);
+    ShowOutline(point);
+}
+
+/// The first click of the pair was a press and a release of its own; this one starts no gesture, so
+/// that its release is no click. A piece that the first click has only just put there is no target.
+void MouseInput::DoubleClick(const QMouseEvent& event) {
+    if (Current != Gesture::None) return;
+    const Piece piece = BoardView::PieceAt(PixelOf(event));
+    if (piece && piece == Pressed) emit Piece_DblClick(piece);
+}
+
+void MouseInput::Move(const QMouseEvent& event) {
+    if (Current == Gesture::None) return;
+    // The release went elsewhere.
+    if (!event.buttons().testFlag(Button)) return Cancel();
+    if (Current == Gesture::Drag) ShowOutline(PixelOf(event));
+}
+
+void MouseInput::Release(const QMouseEvent& event) {
+    if (Current == Gesture::None || event.button() != Button) return;
+    const Gesture ended = Current;
+    Cancel();
+    const QPoint point = PixelOf(event);
+    if (!IsFormPoint(*Form, point)) return;
+    if (ended == Gesture::Drag) {
+        Drop(point);
+    } else {
+        emit Form_MouseUp(point.x(), point.y());
+    }
+}
+
+void MouseInput::Drop(QPoint point) {
+    const Piece target = BoardView::PieceAt(point);
+    if (target) {
+        emit Piece_DragDrop(Pressed, target);
+    } else {
+        emit Form_DragDrop(Pressed, point.x(), point.y());
+    }
+}
+
+void MouseInput::ShowOutline(QPoint pointer) {
+    Outline->move(pointer - Grip);
+    Outline->raise();
+    Outline->show();
+}
+
+}  // namespace brastel
