@@ -1,0 +1,41 @@
+# Debian packages that the scripts need; to be sourced by bash.
+
+BuildPackages=(g++ cmake ninja-build qt6-base-dev)
+# Half-width katakana need a Japanese font.
+FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
+VirtualDisplayPackages=(xvfb xdotool imagemagick)
+TestPackages=(libgtest-dev libbenchmark-dev openbox x11-utils)
+CheckPackages=(clang-format clang-tidy)
+
+# Installs what is missing of the packages named. Without the right to do so it prints the command
+# that would and ends the script.
+need_packages() {
+    local missing=() package
+    for package in "$@"; do
+        dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
+            missing+=("$package")
+    done
+    [ ${#missing[@]} -eq 0 ] && return
+    local as_root=()
+    if [ "$(id -u)" -ne 0 ]; then
+        if ! sudo -n true 2>/dev/null && ! { [ -t 0 ] && command -v sudo >/dev/null; }; then
+            echo "Packages are missing. Install them with this command, then start again:" >&2
+            echo "  su -c 'apt-get update && apt-get install -y ${missing[*]}'" >&2
+            exit 1
+        fi
+        as_root=(sudo)
+    fi
+    echo "Installing ${missing[*]}"
+    "${as_root[@]}" apt-get update -q
+    "${as_root[@]}" env DEBIAN_FRONTEND=noninteractive \
+        apt-get install -y -q --no-install-recommends "${missing[@]}"
+}
+
+# Configures and builds a preset, or only the target named after it. CMakeOptions may hold further
+# options for the configuration.
+CMakeOptions=()
+build_preset() {
+    mkdir -p build
+    cmake --preset "$1" "${CMakeOptions[@]}" >build/configure.log || { cat build/configure.log; exit 1; }
+    cmake --build --preset "$1" ${2:+--target "$2"}
+}

@@ -1,0 +1,88 @@
+#include "core/StartPosition.h"
+#include "tests/WindowTest.h"
+#include "ui/Bead.h"
+#include "ui/Icon.h"
+
+namespace brastel {
+
+namespace {
+
+constexpr QRgb Black = qRgb(0, 0, 0);
+constexpr QRgb Ground = qRgb(192, 192, 192);
+
+/// Run at device pixel ratios 1 and 2.
+class BoardViewTest : public WindowTest {
+protected:
+    /// Length of the black run that begins at a logical point, in device pixels; 0 unless the pixel
+    /// before it is ground.
+    static int BlackRun(const QImage& picture, QPoint start, QPoint step) {
+        const int ratio = qRound(picture.devicePixelRatio());
+        QPoint point = start * ratio;
+        if (picture.pixel(point - step) != Ground) return 0;
+        int length = 0;
+        for (; picture.pixel(point) == Black; point += step) ++length;
+        return picture.pixel(point) == Ground ? length : 0;
+    }
+};
+
+TEST_F(BoardViewTest, LinesAreExact) {
+    const QImage picture = Picture();
+    const int ratio = qRound(picture.devicePixelRatio());
+    const QPoint right(1, 0);
+    const QPoint down(0, 1);
+    struct Case {
+        const char* Name;
+        QPoint Start;
+        QPoint Step;
+        int Width;
+    };
+    const Case Cases[] = {
+        {"board's left edge", {20, 80}, right, 1},   {"board's bottom edge", {40, 579}, down, 1},
+        {"field's left edge", {59, 80}, right, 3},   {"field's right edge", {299, 80}, right, 3},
+        {"square outline", {100, 80}, right, 1},     {"centre line", {80, 299}, down, 3},
+        {"top edge beside goal", {80, 59}, down, 3}, {"goal mouth", {200, 60}, down, 1},
+        {"bottom goal mouth", {160, 540}, down, 1},  {"bottom edge", {280, 539}, down, 3},
+        {"message frame", {620, 450}, right, 1},
+    };
+    for (const Case& c : Cases) {
+        EXPECT_EQ(BlackRun(picture, c.Start, c.Step), c.Width * ratio) << c.Name;
+    }
+}
+
+TEST_F(BoardViewTest, CirclesTouchTheirSquaresFromInside) {
+    const QImage picture = Picture();
+    const int ratio = qRound(picture.devicePixelRatio());
+    const QRect circles[] = {{SquareLeft(4), SquareTop(4), 40, 40}, {660, 230, 51, 51}};
+    for (const QRect& circle : circles) {
+        const QRect device(circle.topLeft() * ratio, circle.size() * ratio);
+        // Five pixels of black from each side.
+        for (int depth = 0; depth < 5 * ratio; ++depth) {
+            const int x = device.center().x();
+            const int y = device.center().y();
+            const QPoint edges[] = {{device.left() + depth, y},
+                                    {device.right() - depth, y},
+                                    {x, device.top() + depth},
+                                    {x, device.bottom() - depth}};
+            for (const QPoint edge : edges) EXPECT_LT(qGray(picture.pixel(edge)), 60);
+        }
+        EXPECT_EQ(picture.pixel(device.center()), Ground);
+    }
+}
+
+TEST_F(BoardViewTest, BeadsAreDrawnAtTheDeviceRatio) {
+    Open(0);
+    const QImage picture = Picture();
+    const double ratio = picture.devicePixelRatio();
+    const QImage bead = BeadPicture(Red, CellSize, ratio).toImage();
+    // Inside the square, clear of the lines above the bead.
+    const int inset = qRound(3 * ratio);
+    const QPoint corner = QPoint(SquareLeft(69), SquareTop(69)) * qRound(ratio);
+    const QRect inner = bead.rect().adjusted(inset, inset, -inset, -inset);
+    EXPECT_EQ(picture.copy(inner.translated(corner)).convertToFormat(QImage::Format_RGB32),
+              bead.copy(inner).convertToFormat(QImage::Format_RGB32));
+    EXPECT_EQ(ApplicationIcon().availableSizes().size(), 7);
+}
+
+}  // namespace
+
+}  // namespace brastel

@@ -1,0 +1,127 @@
+#include "core/StartPosition.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "tests/WindowTest.h"
+
+#include <QMenuBar>
+
+namespace brastel {
+
+namespace {
+
+using MainWindowTest = WindowTest;
+
+TEST_F(MainWindowTest, TheFirstWindowIsAnEmptyFreeSetup) {
+    ExpectViewShowsPosition();
+    EXPECT_EQ(Form->size(), QSize(930, 778));
+    EXPECT_EQ(Window.minimumSize(), Window.maximumSize());
+    EXPECT_TRUE(IsShown("btn_Hint"));
+    for (const char* hidden :
+         {"btn_Forward", "btn_Backward", "btn_Undo", "lbl_Score0", "Text1_1", "Text2_0"}) {
+        EXPECT_FALSE(IsShown(hidden)) << hidden;
+    }
+    EXPECT_TRUE(IsItemChecked("mnu_Easy"));
+    ClickButton("btn_Hint");
+    EXPECT_EQ(Pos.MoveCount, 1) << "there is nobody to play for yet";
+}
+
+TEST_F(MainWindowTest, ThePieceNumberDialogChangesTheLayout) {
+    const std::pair<const char*, int> Choices[] = {{"btn_GameSize3", 8}, {"btn_GameSize5", 12},
+                                                   {"btn_GameSize0", 2}, {"btn_OK", 2},
+                                                   {"close box", 2},     {"btn_GameSize6", 0}};
+    for (const auto& [button, count] : Choices) {
+        ChooseFromMenu("mnu_Level", "mnu_Master");
+        ChoosePieceNumber(button);
+        EXPECT_EQ(Pos.RedCount, count) << button;
+        EXPECT_EQ(Pos.BlueCount, count) << button;
+        EXPECT_EQ(Level, 1) << "a window built anew starts at the lowest strength";
+        EXPECT_TRUE(IsItemChecked("mnu_Easy"));
+        ExpectViewShowsPosition();
+    }
+}
+
+TEST_F(MainWindowTest, TheLevelMenuChecksOneItem) {
+    const std::pair<const char*, int> Items[] = {
+        {"mnu_TwoPlayer", 0}, {"mnu_Medium", 2}, {"mnu_God", 11}, {"mnu_Angel", 10}};
+    for (const auto& [item, level] : Items) {
+        ChooseFromMenu("mnu_Level", item);
+        EXPECT_EQ(Level, level);
+        int checked = 0;
+        for (const QAction* action : Control<QMenu>("mnu_Level")->actions()) {
+            checked += action->isChecked();
+        }
+        EXPECT_EQ(checked, 1);
+        EXPECT_TRUE(IsItemChecked(item));
+    }
+}
+
+TEST_F(MainWindowTest, TheComputerAnswersAndTheGameIsSteppedBack) {
+    Open(3);
+    DoubleClick(69);
+    EXPECT_EQ(Pos.MoveCount, 3) << "Blue places its ring at once";
+    EXPECT_TRUE(IsShown("btn_Backward"));
+    Drag(67, 59);
+    EXPECT_EQ(Pos.MoveCount, 5);
+    ExpectViewShowsPosition();
+    ClickButton("btn_Backward");
+    EXPECT_EQ(Pos.SideToMove, Blue);
+    ClickButton("btn_Hint");
+    EXPECT_EQ(Pos.MoveCount, 5) << "the hint plays for Blue, and Red is no computer";
+    for (int n = 0; n < 4; ++n) ClickButton("btn_Backward");
+    EXPECT_EQ(Pos.MoveCount, 1);
+    EXPECT_FALSE(IsShown("btn_Backward"));
+    ExpectViewShowsPosition();
+}
+
+TEST_F(MainWindowTest, PushingBackIsRefusedWithAMessage) {
+    OpenForTwo(0, 68, 44);
+    Drag(69, 61);
+    Drag(45, 53);
+    Drag(61, 53);
+    const Position position = Pos;
+    ASSERT_EQ(Pos.Board[53], Red);
+    ASSERT_EQ(Pos.Board[37], Blue);
+    Drag(37, 53);
+    EXPECT_EQ(Pos, position);
+    EXPECT_EQ(Message(), "You Cant't Push Back");
+}
+
+/// Clicks of impatient players used to be played after the search, as moves nobody had meant.
+TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
+    Open(3);
+    DoubleClick(69);
+    const Int16 levelBefore = Level;
+    WhileThinking([this] {
+        Drag(68, 60);
+        ClickButton("btn_Backward");
+        ClickButton("btn_Hint");
+        const QMenuBar* bar = Window.menuBar();
+        auto* menu = Control<QMenu>("mnu_Level");
+        QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {},
+                          bar->mapTo(&Window, bar->actionGeometry(menu->menuAction()).center()));
+        EXPECT_FALSE(menu->isVisible());
+        // Pressed now, released after the move.
+        Press(Centre(70));
+    });
+    Drag(67, 59);
+    Release(Centre(62));
+    EXPECT_EQ(Pos.MoveCount, 5);
+    EXPECT_EQ(Pos.Board[68], Red);
+    EXPECT_EQ(Level, levelBefore);
+    EXPECT_FALSE(IsThinking);
+    ExpectViewShowsPosition();
+}
+
+TEST_F(MainWindowTest, ClosingWhileTheComputerThinksEndsWithoutAMove) {
+    Open(3);
+    DoubleClick(69);
+    WhileThinking([this] { Window.close(); });
+    Drag(67, 59);
+    EXPECT_EQ(Pos.MoveCount, 4) << "Red's move stands, Blue's is not begun";
+    EXPECT_FALSE(Window.isVisible());
+    EXPECT_FALSE(IsThinking);
+}
+
+}  // namespace
+
+}  // namespace brastel

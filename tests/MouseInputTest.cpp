@@ -1,0 +1,143 @@
+#include "core/StartPosition.h"
+#include "play/GameState.h"
+#include "tests/WindowTest.h"
+
+#include <array>
+
+namespace brastel {
+
+namespace {
+
+using MouseInputTest = WindowTest;
+
+TEST_F(MouseInputTest, EveryButtonDragsAPiece) {
+    OpenForTwo(3, 68, 44);
+    Drag(Centre(66), Centre(58), Qt::LeftButton);
+    Drag(Centre(42), Centre(50), Qt::RightButton);
+    Drag(Centre(67), Centre(59), Qt::MiddleButton);
+    EXPECT_EQ(Pos.MoveCount, 6);
+    ExpectViewShowsPosition();
+}
+
+TEST_F(MouseInputTest, TheOutlineFollowsThePointerAndGoes) {
+    OpenForTwo(3, 68, 44);
+    auto* outline = Control<QWidget>("DragOutline");
+    Press(Centre(66) + QPoint(5, -7));
+    EXPECT_TRUE(outline->isVisible());
+    Move({700, 300});
+    EXPECT_EQ(outline->geometry(), QRect(700 - 25, 300 - 13, CellSize, CellSize));
+    Release({700, 300});
+    EXPECT_FALSE(outline->isVisible());
+}
+
+TEST_F(MouseInputTest, ARefusedDragLeavesNoTrace) {
+    OpenForTwo(3, 68, 44);
+    const QImage before = Picture();
+    const Position position = Pos;
+    // Onto itself, too far, onto a friend, of the side not to move, onto an outside cell.
+    constexpr std::array<std::array<int, 2>, 5> Refused{
+        {{66, 66}, {66, 34}, {66, 67}, {42, 50}, {66, 65}}};
+    for (const auto& [from, to] : Refused) {
+        Drag(from, to);
+        EXPECT_EQ(Pos, position) << from << " to " << to;
+    }
+    EXPECT_EQ(Picture(), before);
+}
+
+/// The board's columns and rows are told by division. A drop right of the board would be taken for
+/// column 0 of the next row, and the strips left of and above it for the first column and row.
+TEST_F(MouseInputTest, ADropOffTheBoardDoesNothing) {
+    OpenForTwo(3, 68, 44);
+    Drag(66, 58);
+    Drag(47, 55);
+    const Position position = Pos;
+    // Column 9 of row 7 would be column 1 of row 8, next to the piece on 58.
+    const std::array<QPoint, 6> OffBoard{
+        {{20 + 9 * 40 + 5, 300 + 5}, {345, 300}, {10, 300}, {40, 10}, {40, 585}, {900, 700}}};
+    for (const QPoint point : OffBoard) {
+        Drag(Centre(58), point);
+        EXPECT_EQ(Pos, position) << point.x() << ", " << point.y();
+    }
+}
+
+TEST_F(MouseInputTest, ADropOutsideTheWindowOrOnAControlIsNoDrop) {
+    OpenForTwo(3, 68, 44);
+    const Position position = Pos;
+    const QPoint button = Control<QWidget>("btn_Hint")->geometry().center();
+    const std::array<QPoint, 4> Nowhere{{{-30, 300}, {300, -60}, {2000, 300}, button}};
+    for (const QPoint point : Nowhere) Drag(Centre(66), point);
+    EXPECT_EQ(Pos, position);
+}
+
+TEST_F(MouseInputTest, ADragEndsWithoutADropWhenItIsBrokenOff) {
+    OpenForTwo(3, 68, 44);
+    const Position position = Pos;
+    const auto breakOffs = std::to_array<std::function<void()>>({
+        [this] { QTest::keyClick(Window.windowHandle(), Qt::Key_Escape); },
+        [this] { Form->clearFocus(); },
+        // A move without the button down: the release went to somebody else.
+        [this] { Release(Centre(66), Qt::LeftButton), Move(Centre(60)); },
+    });
+    for (const auto& breakOff : breakOffs) {
+        Press(Centre(66));
+        Move(Centre(60));
+        breakOff();
+        EXPECT_FALSE(IsShown("DragOutline"));
+        Move(Centre(58));
+        Release(Centre(58));
+        EXPECT_EQ(Pos, position);
+    }
+}
+
+TEST_F(MouseInputTest, AnotherButtonDuringADragChangesNothing) {
+    OpenForTwo(3, 68, 44);
+    Press(Centre(66), Qt::LeftButton);
+    Press(Centre(67), Qt::RightButton);
+    Release(Centre(67), Qt::RightButton);
+    Move(Centre(58));
+    Release(Centre(58), Qt::LeftButton);
+    EXPECT_EQ(Pos.Board[58], Red);
+    EXPECT_EQ(Pos.Board[67], Red);
+}
+
+/// A double-click on an empty square places a piece with its first click; the second one hits that
+/// piece, but nobody meant to give it the ring. On a piece, the second release is no click.
+TEST_F(MouseInputTest, DoubleClicksInAFreeSetup) {
+    DoubleClick(68);
+    EXPECT_EQ(Pos.RedPlaced, 1);
+    EXPECT_EQ(Pos.MoveCount, 1);
+    ClickAt(Centre(69));
+    DoubleClick(68);
+    EXPECT_EQ(Pos.MoveCount, 2);
+    EXPECT_EQ(Pos.RedCount, 2);
+    EXPECT_EQ(Pos.BluePlaced, 0);
+    ExpectViewShowsPosition();
+}
+
+TEST_F(MouseInputTest, AFreeSetupIsClickedTogetherAndPlayed) {
+    // Left of and above the board still counts as its first column and row here; right of it and
+    // on a control nothing does.
+    for (const QPoint point :
+         {QPoint(5, 330), QPoint(150, 5), QPoint(345, 330), QPoint(740, 505)}) {
+        ClickAt(point);
+    }
+    EXPECT_EQ(Pos.RedPlaced, 2);
+    EXPECT_EQ(Pos.Board[57], Red);
+    EXPECT_EQ(Pos.Board[4], Red);
+    ClickAt(Centre(68));
+    DoubleClick(68);
+    ClickAt(Centre(44));
+    ClickAt(Centre(45));
+    DoubleClick(45);
+    EXPECT_EQ(Pos.MoveCount, 3);
+    ExpectViewShowsPosition();
+    Drag(68, 60);
+    EXPECT_EQ(Pos.MoveCount, 5) << "Blue answers";
+    // The piece in the goal mouth came in by itself.
+    EXPECT_EQ(Pos.Board[12], Red);
+    ExpectViewShowsPosition();
+}
+
+}  // namespace
+
+}  // namespace brastel

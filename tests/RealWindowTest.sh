@@ -1,0 +1,122 @@
+#!/usr/bin/env bash
+# Plays on a real X server, under a window manager, with a real mouse: the offscreen tests know no
+# grab, no stacking and no window manager. Argument: the game program.
+set -euo pipefail
+
+Game=$1
+Folder=$(mktemp -d)
+Started=()
+trap 'kill "${Started[@]}" 2>/dev/null || true; rm -rf "$Folder"' EXIT
+
+fail() {
+    echo "FAILED: $*" >&2
+    import -window root "${TMPDIR:-/tmp}/brastel-failed.png" || true
+    exit 1
+}
+
+# Runs a command until it succeeds, for at most ten seconds.
+wait_for() {
+    local what=$1 n
+    shift
+    for ((n = 0; n < 100; n++)); do
+        "$@" && return
+        sleep 0.1
+    done
+    fail "waited in vain for $what"
+}
+
+# ---- Display ----
+
+Xvfb -displayfd 3 -screen 0 1280x1024x24 3>"$Folder/display" >/dev/null 2>&1 &
+Started+=($!)
+wait_for "the display" test -s "$Folder/display"
+DISPLAY=:$(cat "$Folder/display")
+export DISPLAY
+openbox >/dev/null 2>&1 &
+Started+=($!)
+wait_for "the window manager" eval 'xprop -root _NET_SUPPORTING_WM_CHECK | grep -q 0x'
+
+# ---- Windows ----
+
+window_named() { xdotool search --onlyvisible --name "^$1\$" 2>/dev/null | head -n 1; }
+is_shown() { [ -n "$(window_named "$1")" ]; }
+geometry() { xwininfo -id "$(window_named "$1")" | awk -v key="$2" -F: '$1 ~ key {print $2 + 0}'; }
+
+# Remembers where the inner area of the game's window lies, below its menu bar.
+find_form() {
+    wait_for "the main window" is_shown Brastel
+    sleep 0.3
+    FormLeft=$(geometry Brastel 'Absolute upper-left X')
+    FormTop=$(($(geometry Brastel 'Absolute upper-left Y') + $(geometry Brastel Height) - 778))
+}
+
+# ---- Board ----
+
+column_x() { echo $((FormLeft + 40 + 40 * (($1 - 1) % 8))); }
+row_y() { echo $((FormTop + 40 + 40 * (($1 - 1) / 8))); }
+double_click() {
+    xdotool mousemove "$(column_x "$1")" "$(row_y "$1")" click --repeat 2 --delay 80 1
+}
+drag() {
+    xdotool mousemove "$(column_x "$1")" "$(row_y "$1")" mousedown 1 \
+        mousemove "$(column_x "$2")" "$(row_y "$2")" mouseup 1
+}
+
+# The board as seen: a line of square number and colour for each of its 112 squares.
+look() {
+    import -window root -crop "320x560+$((FormLeft + 20))+$((FormTop + 20))" +repage png:- |
+        convert - -sample '8x14!' -depth 8 txt:- |
+        sed -nE 's/^([0-9]+),([0-9]+): .*#([0-9A-F]{6}).*/\1 \2 \3/p' |
+        awk '{print 8 * $2 + $1 + 1, $3}'
+}
+shows() { look | grep -qx "$1 $2"; }
+count_shown() { look | grep -c " $1\$" || true; }
+turn_color() {
+    import -window root -crop "1x1+$((FormLeft + $1))+$((FormTop + 255))" +repage -depth 8 txt:- |
+        grep -o '#[0-9A-F]\{6\}'
+}
+is_reds_turn() { [ "$(turn_color 662)" = '#000000' ]; }
+
+readonly Red=FF07FF Blue=07FFFF Empty=C0C0C0
+
+# ---- The story ----
+
+"$Game" &
+GameProcess=$!
+Started+=($GameProcess)
+find_form
+[ "$(count_shown $Empty)" -eq 112 ] || fail "the first board is not empty"
+
+xdotool key alt+o
+sleep 0.3
+xdotool key c
+wait_for "the piece-number dialog" is_shown 'About Orvel Geme'
+sleep 0.3
+xdotool mousemove $(($(geometry 'About Orvel Geme' 'Absolute upper-left X') + 221)) \
+    $(($(geometry 'About Orvel Geme' 'Absolute upper-left Y') + 211)) click 1
+find_form
+[ "$(count_shown $Red) $(count_shown $Blue)" = '8 8' ] || fail "the standard layout is not shown"
+
+before=$(look)
+drag 68 60
+sleep 0.3
+[ "$(look)" = "$before" ] || fail "a piece was moved before the rings were placed"
+
+double_click 69
+wait_for "Blue's ring" is_reds_turn
+drag 67 59
+wait_for "Red's move" shows 59 $Red
+wait_for "Blue's answer" is_reds_turn
+shows 67 $Empty || fail "the moved piece is still seen where it was"
+moved=$(diff <(echo "$before") <(look) | grep -c '^>' || true)
+[ "$moved" -ge 3 ] || fail "Blue's answer is not seen"
+[ "$(count_shown $Red) $(count_shown $Blue)" = '8 8' ] || fail "pieces were lost on the way"
+
+before=$(look)
+drag 59 1000
+[ "$(look)" = "$before" ] || fail "a drop outside the window moved a piece"
+
+xdotool key alt+F4
+wait_for "the end of the program" eval '! kill -0 $GameProcess 2>/dev/null'
+wait $GameProcess || fail "the program ended with status $?"
+echo "The real window works."

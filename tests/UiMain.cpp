@@ -1,0 +1,12 @@
+#include <QApplication>
+#include <QtGlobal>
+#include <gtest/gtest.h>
+
+/// Without a display: the tests send their events to the window through Qt's own queue.
+int main(int argc, char** argv) {
+    testing::InitGoogleTest(&argc, argv);
+    qputenv("QT_QPA_PLATFORM", "offscreen");
+    const QApplication application(argc, argv);
+    QApplication::setQuitOnLastWindowClosed(false);
+    return RUN_ALL_TESTS();
+}

@@ -1,0 +1,133 @@
+#include "tests/WindowTest.h"
+
+#include "core/StartPosition.h"
+#include "play/GameState.h"
+
+#include <QMenu>
+#include <QMenuBar>
+#include <QTimer>
+
+namespace brastel {
+
+namespace {
+
+constexpr QRgb Ground = qRgb(192, 192, 192);
+constexpr QRgb Magenta = qRgb(255, 7, 255);
+constexpr QRgb Cyan = qRgb(7, 255, 255);
+
+QRgb BeadColor(int cell) { return cell == Red ? Magenta : cell == Blue ? Cyan : Ground; }
+
+/// The pixel that shows the middle of a logical pixel.
+QRgb PixelAt(const QImage& picture, int x, int y) {
+    const double ratio = picture.devicePixelRatio();
+    return picture.pixel(static_cast<int>((x + 0.5) * ratio), static_cast<int>((y + 0.5) * ratio));
+}
+
+}  // namespace
+
+WindowTest::WindowTest() : Form(Window.centralWidget()) { Open(FreeSetupLayout); }
+
+void WindowTest::Open(int layout) {
+    SelectStartLayout(layout);
+    Window.OpenMainWindow();
+    ASSERT_TRUE(QTest::qWaitForWindowExposed(&Window));
+}
+
+void WindowTest::OpenForTwo(int layout, int redRing, int blueRing) {
+    Open(layout);
+    ChooseFromMenu("mnu_Level", "mnu_TwoPlayer");
+    DoubleClick(redRing);
+    DoubleClick(blueRing);
+    ASSERT_EQ(Pos.MoveCount, 3);
+}
+
+QPoint WindowTest::Centre(int square) {
+    return {SquareLeft(square) + CellSize / 2, SquareTop(square) + CellSize / 2};
+}
+
+void WindowTest::Press(QPoint point, Qt::MouseButton button) {
+    QTest::mousePress(Window.windowHandle(), button, {}, InWindow(point));
+}
+
+void WindowTest::Move(QPoint point) { QTest::mouseMove(Window.windowHandle(), InWindow(point)); }
+
+void WindowTest::Release(QPoint point, Qt::MouseButton button) {
+    QTest::mouseRelease(Window.windowHandle(), button, {}, InWindow(point));
+}
+
+void WindowTest::Drag(QPoint from, QPoint to, Qt::MouseButton button) {
+    Press(from, button);
+    Move((from + to) / 2);
+    Move(to);
+    Release(to, button);
+}
+
+void WindowTest::DoubleClick(int square) {
+    QTest::mouseDClick(Window.windowHandle(), Qt::LeftButton, {}, InWindow(Centre(square)));
+}
+
+void WindowTest::ClickAt(QPoint point) {
+    Press(point);
+    Release(point);
+}
+
+void WindowTest::ClickButton(const char* name) {
+    ClickAt(Control<QWidget>(name)->geometry().center());
+}
+
+void WindowTest::ChooseFromMenu(const char* menu, const char* item) {
+    auto* popup = Control<QMenu>(menu);
+    QMenuBar* bar = Window.menuBar();
+    const QPoint entry = bar->actionGeometry(popup->menuAction()).center();
+    QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {}, bar->mapTo(&Window, entry));
+    ASSERT_TRUE(popup->isVisible());
+    const QPoint place = popup->actionGeometry(Control<QAction>(item)).center();
+    QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, {}, place);
+}
+
+void WindowTest::ChoosePieceNumber(const char* button) {
+    QTimer poll;
+    bool answered = false;
+    QObject::connect(&poll, &QTimer::timeout, [&] {
+        QWidget* dialog = QApplication::activeModalWidget();
+        if (dialog == nullptr) return;
+        answered = true;
+        poll.stop();
+        EXPECT_FALSE(Window.isVisible());
+        auto* chosen = dialog->findChild<QWidget*>(button);
+        if (chosen == nullptr) {
+            dialog->close();
+            return;
+        }
+        QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {}, chosen->geometry().center());
+    });
+    poll.start(10);
+    ChooseFromMenu("mnu_Options", "mnu_GameSize");
+    EXPECT_TRUE(answered);
+    EXPECT_TRUE(Window.isVisible());
+}
+
+void WindowTest::ExpectViewShowsPosition() {
+    const QImage picture = Picture();
+    for (int square = FirstSquare; square <= LastSquare; ++square) {
+        const QPoint centre = Centre(square);
+        EXPECT_EQ(PixelAt(picture, centre.x(), centre.y()), BeadColor(Pos.Board[square]))
+            << "square " << square;
+        const bool showsRing =
+            PixelAt(picture, SquareLeft(square) + 3, centre.y()) == qRgb(0, 0, 0);
+        EXPECT_EQ(showsRing, IsRingSquare(square)) << "square " << square;
+    }
+    const QRgb redTurn = PixelAt(picture, 660 + 2, 230 + 25);
+    const QRgb blueTurn = PixelAt(picture, 730 + 2, 230 + 25);
+    EXPECT_EQ(redTurn, Pos.SideToMove == Red ? qRgb(0, 0, 0) : Ground);
+    EXPECT_EQ(blueTurn, Pos.SideToMove == Blue ? qRgb(0, 0, 0) : Ground);
+}
+
+void WindowTest::WhileThinking(const std::function<void()>& action) {
+    QTimer::singleShot(10, [action] {
+        EXPECT_TRUE(IsThinking);
+        action();
+    });
+}
+
+}  // namespace brastel
