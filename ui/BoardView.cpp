@@ -2,6 +2,7 @@
 
 #include "ui/Bead.h"
 #include "ui/Layout.h"
+#include "ui/Outline.h"
 
 #include <QPaintEvent>
 #include <QPainter>
@@ -12,7 +13,6 @@ namespace brastel {
 
 namespace {
 
-constexpr QColor LineColor(0, 0, 0);
 constexpr int FieldLineWidth = 3;
 constexpr int CircleWidth = 5;
 
@@ -39,15 +39,6 @@ constexpr QRect BlueCircle = TwipRect{8760, 2760, 612, 612}.InPixels();
 /// Shape1.
 constexpr QRect MessageFrame = TwipRect{7440, 5160, 2532, 612}.InPixels();
 
-/// A rectangle outline one pixel wide. Filled rectangles fall on whole device pixels at every
-/// ratio; drawn lines do not.
-void PaintOutline(QPainter& painter, const QRect& rect) {
-    painter.fillRect(QRect(rect.left(), rect.top(), rect.width(), 1), LineColor);
-    painter.fillRect(QRect(rect.left(), rect.bottom(), rect.width(), 1), LineColor);
-    painter.fillRect(QRect(rect.left(), rect.top(), 1, rect.height()), LineColor);
-    painter.fillRect(QRect(rect.right(), rect.top(), 1, rect.height()), LineColor);
-}
-
 /// shp_board: neighbours share a line.
 void PaintSquares(QPainter& painter) {
     for (int square = FirstSquare; square <= LastSquare; ++square) {
@@ -60,7 +51,7 @@ void PaintFieldLines(QPainter& painter) {
     constexpr int Half = FieldLineWidth / 2;
     for (const Line& line : FieldLines) {
         const QRect path(line.From, line.To);
-        painter.fillRect(path.adjusted(-Half, -Half, Half, Half), LineColor);
+        FillSharp(painter, path.adjusted(-Half, -Half, Half, Half));
     }
 }
 
@@ -69,7 +60,7 @@ void PaintCircle(QPainter& painter, const QRect& rect) {
     constexpr qreal Half = CircleWidth / 2.0;
     painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
-    painter.setPen(QPen(LineColor, CircleWidth));
+    painter.setPen(QPen(Qt::black, CircleWidth));
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(QRectF(rect).adjusted(Half, Half, -Half, -Half));
     painter.restore();

@@ -1,6 +1,7 @@
 #include "ui/MouseInput.h"
 
 #include "ui/BoardView.h"
+#include "ui/Outline.h"
 
 #include <QKeyEvent>
 #include <QMouseEvent>
@@ -24,10 +25,7 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        painter.fillRect(0, 0, width(), 1, Qt::black);
-        painter.fillRect(0, height() - 1, width(), 1, Qt::black);
-        painter.fillRect(0, 0, 1, height(), Qt::black);
-        painter.fillRect(width() - 1, 0, 1, height(), Qt::black);
+        PaintOutline(painter, rect());
     }
 };
 
