@@ -1,0 +1,104 @@
+#include "files/Drives.h"
+
+#include <algorithm>
+#include <array>
+#include <fstream>
+#include <iterator>
+#include <sstream>
+
+namespace brastel {
+
+namespace {
+
+constexpr std::string_view Root = "/";
+
+/// File systems of disks have a device; these come over the network or from a user's program.
+constexpr std::array<std::string_view, 9> RemoteTypes{"nfs", "nfs4", "cifs", "smb3", "smbfs",
+                                                      "9p",  "afs",  "ceph", "davfs"};
+
+/// Where a system mounts parts of itself.
+constexpr std::array<std::string_view, 12> SystemFolders{"/boot", "/dev",  "/efi", "/etc",
+                                                         "/nix",  "/proc", "/run", "/snap",
+                                                         "/sys",  "/usr",  "/var", "/tmp"};
+
+/// Volumes that a desktop mounts for its user, although they lie below a system folder.
+constexpr std::string_view UserMedia = "/run/media";
+
+bool IsBelow(std::string_view path, std::string_view folder) {
+    if (folder == Root || path == folder) return true;
+    return path.starts_with(folder) && path[folder.size()] == '/';
+}
+
+bool IsUserVolume(std::string_view place, std::string_view type, std::string_view device) {
+    const bool isSystem = std::ranges::any_of(
+        SystemFolders, [place](std::string_view folder) { return IsBelow(place, folder); });
+    if (isSystem && !IsBelow(place, UserMedia)) return false;
+    const bool isDisk = device.starts_with("/dev/") && type != "squashfs";
+    const bool isRemote = std::ranges::find(RemoteTypes, type) != RemoteTypes.end();
+    return isDisk || isRemote || type.starts_with("fuse.") || type == "fuseblk";
+}
+
+/// The table writes blanks and backslashes as three octal digits.
+std::string Unescaped(const std::string& text) {
+    std::string plain;
+    for (std::size_t i = 0; i < text.size(); ++i) {
+        const bool isEscape = text[i] == '\\' && i + 3 < text.size();
+        plain +=
+            isEscape ? static_cast<char>(std::stoi(text.substr(i + 1, 3), nullptr, 8)) : text[i];
+        if (isEscape) i += 3;
+    }
+    return plain;
+}
+
+struct Mount {
+    std::string Place;
+    std::string Type;
+    std::string Device;
+};
+
+/// A line: number, parent, device number, root, place, options, optional fields up to "-", type,
+/// device, further options.
+Mount ParseMount(const std::string& line) {
+    std::istringstream fields(line);
+    Mount mount;
+    std::string skipped;
+    fields >> skipped >> skipped >> skipped >> skipped >> mount.Place;
+    while (fields >> skipped && skipped != "-") {
+    }
+    fields >> mount.Type >> mount.Device;
+    mount.Place = Unescaped(mount.Place);
+    return mount;
+}
+
+}  // namespace
+
+std::vector<std::string> DrivesIn(std::string_view mountTable) {
+    std::vector<std::string> drives;
+    std::istringstream lines{std::string(mountTable)};
+    for (std::string line; std::getline(lines, line);) {
+        const Mount mount = ParseMount(line);
+        const bool isChosen =
+            mount.Place != Root && IsUserVolume(mount.Place, mount.Type, mount.Device);
+        if (isChosen) drives.push_back(mount.Place);
+    }
+    std::ranges::sort(drives);
+    const auto repeated = std::ranges::unique(drives);
+    drives.erase(repeated.begin(), repeated.end());
+    drives.insert(drives.begin(), std::string(Root));
+    return drives;
+}
+
+std::vector<std::string> ListDrives() {
+    std::ifstream table("/proc/self/mountinfo");
+    return DrivesIn(std::string(std::istreambuf_iterator<char>(table), {}));
+}
+
+std::string DriveOf(const std::vector<std::string>& drives, std::string_view folder) {
+    std::string best(Root);
+    for (const std::string& drive : drives) {
+        if (drive.size() > best.size() && IsBelow(folder, drive)) best = drive;
+    }
+    return best;
+}
+
+}  // namespace brastel

@@ -1,0 +1,51 @@
+#pragma once
+
+#include "core/Numbers.h"
+#include "files/FileErrors.h"
+
+#include <array>
+#include <cstddef>
+#include <string>
+
+/// Text files of 16-bit numbers.
+namespace brastel {
+
+/// Reads numbers one by one, from ordinary files only: devices and pipes are refused at once and
+/// never waited for. However large the file or a token in it, only a small buffer is held and
+/// nothing is read beyond the value asked for.
+class NumberReader {
+public:
+    /// Opens the file; Error() tells whether that worked.
+    explicit NumberReader(const std::string& path);
+    ~NumberReader();
+    NumberReader(const NumberReader&) = delete;
+    NumberReader& operator=(const NumberReader&) = delete;
+
+    FileError Error() const { return Failure; }
+
+    /// Skips spaces, tabs, commas and line ends and reads the next value into `value`. False, with
+    /// `value` unchanged, on the first error and ever after.
+    bool Read(Int16& value);
+
+private:
+    static constexpr int EndOfData = -1;
+
+    /// The next byte, or EndOfData at the end and on errors.
+    int Peek();
+    bool Fail(FileError error);
+    bool SkipSeparators();
+
+    std::array<unsigned char, 4096> Buffer{};
+    std::size_t Used = 0;
+    std::size_t Filled = 0;
+    int File = -1;
+    FileError Failure = FileError::None;
+};
+
+/// A number as files hold it: a sign column (a space unless negative), the digits, a space.
+std::string NumberText(Int16 value);
+
+/// Creates or empties the file and writes the text. A failure can leave a part of it behind.
+FileError WriteTextFile(const std::string& path, const std::string& text);
+
+}  // namespace brastel
