@@ -101,6 +101,11 @@ void OpenGame() {
     SetLevel(EasyDepth);
 }
 
+void BeginLoadedGame() {
+    NewGameCommand();
+    ShowForward(true);
+}
+
 void StepBack() {
     if (IsThinking) return;
     const int kept = std::max(Pos.MoveCount - 2, 0);

@@ -54,6 +54,10 @@ void NewGameCommand();
 /// Starts a game in a window just built: a new game at the lowest strength.
 void OpenGame();
 
+/// Goes to the start of the game in force with btn_Forward shown, ready to step through the game
+/// loaded last.
+void BeginLoadedGame();
+
 /// Takes back the last entry by playing the others again from the start. No win is tested and the
 /// computer does not move.
 void StepBack();

@@ -5,6 +5,20 @@
 
 namespace brastel {
 
+QFont JapaneseFont(double points) {
+    QFont font;
+    font.setFamilies({"IPAPGothic", "IPAexGothic", "Noto Sans CJK JP", "TakaoPGothic", "VL PGothic",
+                      font.family()});
+    font.setPixelSize(FontPixels(points));
+    return font;
+}
+
+QPalette GreyPalette(QPalette palette) {
+    palette.setColor(QPalette::Window, WindowGround);
+    palette.setColor(QPalette::WindowText, Qt::black);
+    return palette;
+}
+
 void FixInnerArea(QWidget& window, int widthTwips, int heightTwips, int extraHeight) {
     window.setFixedSize(Pixels(widthTwips), Pixels(heightTwips) + extraHeight);
 }

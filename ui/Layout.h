@@ -2,6 +2,7 @@
 
 #include <QFont>
 #include <QLabel>
+#include <QPalette>
 #include <QRect>
 #include <QWidget>
 
@@ -31,6 +32,18 @@ struct TwipRect {
 
 /// Point sizes are meant for 120 dots per inch, too.
 constexpr int FontPixels(double points) { return static_cast<int>(points * 120 / 72 + 0.5); }
+
+/// The platform's Japanese proportional gothic font in this size. Other fonts lack half-width
+/// katakana.
+QFont JapaneseFont(double points);
+
+/// The palette with the windows' grey as ground and black text on it, whatever the desktop's theme.
+QPalette GreyPalette(QPalette palette);
+
+/// Frame of a dialog: title and close box, no resizing.
+constexpr Qt::WindowFlags FixedDialogFlags = Qt::Dialog | Qt::MSWindowsFixedSizeDialogHint |
+                                             Qt::CustomizeWindowHint | Qt::WindowTitleHint |
+                                             Qt::WindowCloseButtonHint;
 
 /// Makes the window's inner area exactly this large, in twips, with no resizing; `extraHeight`
 /// logical pixels are added, for a menu bar.

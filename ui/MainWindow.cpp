@@ -6,19 +6,24 @@
 #include "play/Hint.h"
 #include "play/HumanAction.h"
 #include "ui/BoardView.h"
+#include "ui/FileDialog.h"
 #include "ui/Icon.h"
 #include "ui/Layout.h"
 #include "ui/Menus.h"
 #include "ui/MouseInput.h"
 #include "ui/PieceNumberDialog.h"
+#include "ui/RulesWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
 #include <QMenuBar>
+#include <QMessageBox>
 
 namespace brastel {
 
 namespace {
+
+constexpr double MessagePoints = 9;
 
 constexpr int InnerWidth = 11160;
 constexpr int InnerHeight = 9336;
@@ -67,6 +72,16 @@ void FillHidden(std::array<QLineEdit*, Count>& boxes, QWidget* parent, const QSt
     }
 }
 
+int RunMessageBox(QMessageBox::Icon icon, const std::string& text, const std::string& title,
+                  QMessageBox::StandardButtons buttons, QMessageBox::StandardButton standard) {
+    QMessageBox box(icon, QString::fromStdString(title), QString::fromStdString(text), buttons,
+                    QApplication::activeModalWidget());
+    box.setDefaultButton(standard);
+    box.setTextFormat(Qt::PlainText);
+    box.setFont(JapaneseFont(MessagePoints));
+    return box.exec();
+}
+
 }  // namespace
 
 MainWindow::MainWindow() {
@@ -77,10 +92,14 @@ MainWindow::MainWindow() {
     FixInnerArea(*this, InnerWidth, InnerHeight, menuBar()->sizeHint().height());
     ConnectInput();
     SetView(this);
+    SetFileView(this);
     qApp->installEventFilter(this);
 }
 
-MainWindow::~MainWindow() { SetView(nullptr); }
+MainWindow::~MainWindow() {
+    SetView(nullptr);
+    SetFileView(nullptr);
+}
 
 void MainWindow::BuildWindow() {
     setObjectName("frm_Tamber");
@@ -89,10 +108,7 @@ void MainWindow::BuildWindow() {
     setWindowFlags(Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint |
                    Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);
-    QPalette colors = palette();
-    colors.setColor(QPalette::Window, WindowGround);
-    colors.setColor(QPalette::WindowText, Qt::black);
-    setPalette(colors);
+    setPalette(GreyPalette(palette()));
     Form = new BoardView(this);
     setCentralWidget(Form);
 }
@@ -135,8 +151,23 @@ void MainWindow::OpenMainWindow() {
     show();
 }
 
+bool MainWindow::RunFileDialog(ChooserMode mode) {
+    FileDialog dialog(mode);
+    dialog.exec();
+    if (dialog.WasClosedByBox()) close();
+    return !dialog.WasClosedByBox();
+}
+
+void MainWindow::LoadGameCommand() {
+    if (RunFileDialog(ChooserMode::Open)) BeginLoadedGame();
+}
+
+void MainWindow::SaveGameCommand() { RunFileDialog(ChooserMode::Save); }
+
+void MainWindow::RulesCommand() { RulesWindow().exec(); }
+
 void MainWindow::ChangePieceNumberCommand() {
-    hide();
+    CloseMainWindow();
     PieceNumberDialog().exec();
     OpenMainWindow();
 }
@@ -178,6 +209,17 @@ void MainWindow::ShowBoardTexts() {
 }
 
 void MainWindow::ShowCandidateCount(Int16 count) { Text2[0]->setText(QString::number(count)); }
+
+void MainWindow::CloseMainWindow() { hide(); }
+
+bool MainWindow::AskYesOrNo(const std::string& text, const std::string& title) {
+    return RunMessageBox(QMessageBox::NoIcon, text, title, QMessageBox::Yes | QMessageBox::No,
+                         QMessageBox::No) == QMessageBox::Yes;
+}
+
+void MainWindow::ShowWarning(const std::string& text, const std::string& title) {
+    RunMessageBox(QMessageBox::Warning, text, title, QMessageBox::Ok, QMessageBox::Ok);
+}
 
 /// Also in the middle of a computer move: the window disappears, the move is not played, and the
 /// program ends when the event loop is reached.

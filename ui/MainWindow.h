@@ -1,5 +1,7 @@
 #pragma once
 
+#include "files/FileChooser.h"
+#include "files/FileView.h"
 #include "play/GameView.h"
 
 #include <QActionGroup>
@@ -15,9 +17,9 @@ namespace brastel {
 class BoardView;
 class MouseInput;
 
-/// frm_Tamber, the program's one working window, and the view that the game speaks to while it
-/// lives.
-class MainWindow final : public QMainWindow, public GameView {
+/// frm_Tamber, the program's one working window, and the view that the game and the file commands
+/// speak to while it lives.
+class MainWindow final : public QMainWindow, public GameView, public FileView {
 public:
     MainWindow();
     ~MainWindow() override;
@@ -26,9 +28,12 @@ public:
 
     /// Shows the window as new: centred, a new game with the pieces and layout in force, lowest
     /// strength.
-    void OpenMainWindow();
+    void OpenMainWindow() override;
 
     // ---- Menu commands that open windows ----
+    void LoadGameCommand();
+    void SaveGameCommand();
+    void RulesCommand();
     /// Takes the window down, lets the user choose a layout, and opens it again.
     void ChangePieceNumberCommand();
     /// Closes the window, which ends the program.
@@ -47,6 +52,11 @@ public:
     void ShowBoardTexts() override;
     void ShowCandidateCount(Int16 count) override;
 
+    // ---- FileView ----
+    void CloseMainWindow() override;
+    bool AskYesOrNo(const std::string& text, const std::string& title) override;
+    void ShowWarning(const std::string& text, const std::string& title) override;
+
 protected:
     void closeEvent(QCloseEvent* event) override;
     /// Drops what the user does while the computer thinks, wherever in the program it arrives.
@@ -57,6 +67,8 @@ private:
     void BuildSidePanel();
     void BuildHiddenControls();
     void ConnectInput();
+    /// Runs the file dialog; closing it by its close box closes this window, too. False then.
+    bool RunFileDialog(ChooserMode mode);
 
     BoardView* Form = nullptr;
     MouseInput* Mouse = nullptr;

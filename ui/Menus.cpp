@@ -22,11 +22,17 @@ struct MenuItem {
 
 constexpr MenuItem OptionsItems[] = {
     {"mnu_NewGame", "&New Game", [](MainWindow&) { NewGameCommand(); }},
+    {"mnuFileItem1", "&Load Game", [](MainWindow& window) { window.LoadGameCommand(); }},
+    {"mnuFileItem2", "&Save Game", [](MainWindow& window) { window.SaveGameCommand(); }},
     {"mnu_SizeSep", "-", nullptr},
     {"mnu_GameSize", "&Change Piece Number",
      [](MainWindow& window) { window.ChangePieceNumberCommand(); }},
     {"mnu_ExitSep", "-", nullptr},
     {"mnu_Exit", "E&xit", [](MainWindow& window) { window.ExitCommand(); }},
+};
+
+constexpr MenuItem HelpItems[] = {
+    {"mnu_Rules", "&Rules", [](MainWindow& window) { window.RulesCommand(); }},
 };
 
 QMenu* AddMenu(MainWindow& window, const char* name, const char* caption) {
@@ -74,7 +80,9 @@ QActionGroup* AddLevels(QMenu& menu) {
 
 QActionGroup* BuildMenus(MainWindow& window) {
     AddItems(*AddMenu(window, "mnu_Options", "&Options"), window, OptionsItems);
-    return AddLevels(*AddMenu(window, "mnu_Level", "&Level"));
+    QActionGroup* levels = AddLevels(*AddMenu(window, "mnu_Level", "&Level"));
+    AddItems(*AddMenu(window, "mnu_Help", "&Help"), window, HelpItems);
+    return levels;
 }
 
 void CheckLevel(const QActionGroup& levels, Int16 level) {

@@ -50,8 +50,7 @@ PieceNumberDialog::PieceNumberDialog() {
     setObjectName("frm_GameSize");
     setWindowTitle("About Orvel Geme");
     setWindowIcon(ApplicationIcon());
-    setWindowFlags(Qt::Dialog | Qt::CustomizeWindowHint | Qt::WindowTitleHint |
-                   Qt::WindowCloseButtonHint);
+    setWindowFlags(FixedDialogFlags);
     QFont bold = font();
     bold.setBold(true);
     setFont(bold);

@@ -1,0 +1,162 @@
+#include "ui/FileDialog.h"
+
+#include "ui/Icon.h"
+#include "ui/Layout.h"
+
+#include <QCloseEvent>
+#include <QFileIconProvider>
+#include <QPushButton>
+
+#include <array>
+
+namespace brastel {
+
+namespace {
+
+constexpr int InnerWidth = 5760;
+constexpr int InnerHeight = 3204;
+
+constexpr TwipRect NamePlace{120, 420, 2055, 405};
+constexpr TwipRect FilesPlace{120, 840, 2055, 2136};
+constexpr TwipRect PathPlace{2280, 420, 3375, 315};
+constexpr TwipRect FoldersPlace{2280, 780, 2055, 1530};
+constexpr TwipRect DrivesPlace{2280, 2640, 3375, 390};
+constexpr TwipRect OkPlace{4560, 780, 1095, 435};
+constexpr TwipRect CancelPlace{4560, 1320, 1095, 435};
+constexpr double Points = 9;
+
+/// Half-width katakana; the ampersand marks the access key of the control that the label names.
+struct LabelText {
+    const char* Name;
+    TwipRect Place;
+    const char* Text;
+};
+constexpr LabelText NameLabel{"lblOpenSave0", {120, 120, 1455, 315}, "ﾌｧｲﾙ名(&N):"};
+constexpr LabelText FolderLabel{"lblOpenSave1", {2400, 120, 1455, 315}, "ﾃﾞｨﾚｸﾄﾘ(&D)"};
+constexpr LabelText DriveLabel{"lblOpenSave3", {2400, 2340, 1455, 315}, "ﾄﾞﾗｲﾌﾞ(&V):"};
+constexpr const char* CancelText = "ｷｬﾝｾﾙ";
+
+constexpr int IndentPerLevel = 2;
+
+/// Names are bytes that need not be UTF-8; what is not is shown as well as it goes.
+QString Shown(const std::string& name) { return QString::fromStdString(name); }
+
+void AddLabel(QWidget* parent, const LabelText& label, QWidget* buddy) {
+    auto* widget = new QLabel(label.Text, parent);
+    PlaceControl(*widget, label.Name, label.Place);
+    widget->setBuddy(buddy);
+}
+
+template <typename Widget>
+Widget* Add(QWidget* parent, const char* name, const TwipRect& place) {
+    auto* widget = new Widget(parent);
+    PlaceControl(*widget, name, place);
+    return widget;
+}
+
+QPushButton* AddButton(QWidget* parent, const char* name, const char* text, const TwipRect& place) {
+    auto* button = Add<QPushButton>(parent, name, place);
+    button->setText(text);
+    return button;
+}
+
+}  // namespace
+
+FileDialog::FileDialog(ChooserMode mode) {
+    OpenChooser(mode);
+    setObjectName("frmOpenSave");
+    setWindowTitle(ChooserTitle(mode));
+    setWindowIcon(ApplicationIcon());
+    setWindowFlags(FixedDialogFlags);
+    setPalette(GreyPalette(palette()));
+    setFont(JapaneseFont(Points));
+    FixInnerArea(*this, InnerWidth, InnerHeight);
+    BuildControls();
+    ConnectControls();
+    ShowChooser();
+    txtOpenSave->selectAll();
+    CentreOnScreen(*this);
+}
+
+void FileDialog::BuildControls() {
+    txtOpenSave = Add<QLineEdit>(this, "txtOpenSave", NamePlace);
+    filOpenSave = Add<QListWidget>(this, "filOpenSave", FilesPlace);
+    lblPath = Add<QLabel>(this, "lblOpenSave2", PathPlace);
+    dirOpenSave = Add<QListWidget>(this, "dirOpenSave", FoldersPlace);
+    drvOpenSave = Add<QComboBox>(this, "drvOpenSave", DrivesPlace);
+    AddLabel(this, NameLabel, txtOpenSave);
+    AddLabel(this, FolderLabel, dirOpenSave);
+    AddLabel(this, DriveLabel, drvOpenSave);
+    filOpenSave->setUniformItemSizes(true);
+    dirOpenSave->setUniformItemSizes(true);
+}
+
+void FileDialog::ConnectControls() {
+    QPushButton* ok = AddButton(this, "cmdOpenSave0", "OK", OkPlace);
+    QPushButton* cancel = AddButton(this, "cmdOpenSave1", CancelText, CancelPlace);
+    ok->setDefault(true);
+    cancel->setAutoDefault(false);
+    connect(ok, &QPushButton::clicked, this, [this] { Confirm(); });
+    connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
+    connect(filOpenSave, &QListWidget::itemClicked, this,
+            [this] { After(ClickFile(filOpenSave->currentRow())); });
+    connect(filOpenSave, &QListWidget::itemDoubleClicked, this,
+            [this] { After(ChooseFile(filOpenSave->currentRow())); });
+    connect(dirOpenSave, &QListWidget::itemDoubleClicked, this,
+            [this] { After(ChooseFolder(dirOpenSave->currentRow())); });
+    connect(drvOpenSave, &QComboBox::activated, this,
+            [this](int drive) { After(ChooseDrive(drive)); });
+}
+
+void FileDialog::ShowChooser() {
+    txtOpenSave->setText(Shown(Chooser.NameBox));
+    filOpenSave->clear();
+    for (const std::string& file : Chooser.Files) filOpenSave->addItem(Shown(file));
+    drvOpenSave->clear();
+    for (const std::string& drive : Chooser.Drives) drvOpenSave->addItem(Shown(drive));
+    drvOpenSave->setCurrentIndex(Chooser.Drive);
+    ShowFolders();
+    ShowPath();
+}
+
+void FileDialog::ShowFolders() {
+    const QIcon icon = QFileIconProvider().icon(QFileIconProvider::Folder);
+    dirOpenSave->clear();
+    int current = 0;
+    for (const FolderRow& row : Chooser.Folders) {
+        const QString indent(row.Depth * IndentPerLevel, ' ');
+        new QListWidgetItem(icon, indent + Shown(row.Name), dirOpenSave);
+        if (row.Path == Chooser.Folder) current = dirOpenSave->count() - 1;
+    }
+    dirOpenSave->setCurrentRow(current);
+}
+
+/// The end of a path tells more than its start.
+void FileDialog::ShowPath() {
+    const QString path = Shown(Chooser.Folder);
+    lblPath->setText(lblPath->fontMetrics().elidedText(path, Qt::ElideLeft, lblPath->width()));
+    lblPath->setToolTip(path);
+}
+
+void FileDialog::After(bool isDone) {
+    if (isDone) {
+        accept();
+    } else {
+        ShowChooser();
+    }
+}
+
+/// A name that was only clicked keeps its bytes, even if the box cannot show them.
+void FileDialog::Confirm() {
+    const QString text = txtOpenSave->text();
+    const bool isUntouched = text == Shown(Chooser.NameBox);
+    After(ConfirmName(isUntouched ? Chooser.NameBox : text.toStdString()));
+}
+
+/// Reached by the close box only: Cancel, Esc and a finished choice do not send this.
+void FileDialog::closeEvent(QCloseEvent* event) {
+    ClosedByBox = true;
+    QDialog::closeEvent(event);
+}
+
+}  // namespace brastel

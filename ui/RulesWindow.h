@@ -1,0 +1,18 @@
+#pragma once
+
+#include <QDialog>
+
+namespace brastel {
+
+/// frm_Rules: the rules in words, painted line by line, with an OK button. Opened modally by
+/// exec().
+class RulesWindow : public QDialog {
+public:
+    RulesWindow();
+
+protected:
+    void paintEvent(QPaintEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
+};
+
+}  // namespace brastel
