@@ -3,8 +3,9 @@
 # grab, no stacking and no window manager. Argument: the game program.
 set -euo pipefail
 
-Game=$1
+Game=$(realpath "$1")
 Folder=$(mktemp -d)
+cd "$Folder"
 Started=()
 trap 'kill "${Started[@]}" 2>/dev/null || true; rm -rf "$Folder"' EXIT
 
@@ -115,6 +116,34 @@ moved=$(diff <(echo "$before") <(look) | grep -c '^>' || true)
 before=$(look)
 drag 59 1000
 [ "$(look)" = "$before" ] || fail "a drop outside the window moved a piece"
+
+# A game is loaded through the dialog, stepped to its end and saved under a new name.
+{
+    printf ' 2  2 \r\n 4 \r\n 68 \r\n 69 \r\n 109 \r\n 44 \r\n 45 \r\n'
+    printf ' 4 \r\n 68  0 \r\n 45  0 \r\n 68  60 \r\n 44  52 \r\n'
+} >game
+xdotool key alt+o
+sleep 0.3
+xdotool key l
+wait_for "the load dialog" is_shown '開く'
+sleep 0.3
+xdotool type game
+xdotool key Return
+find_form
+[ "$(count_shown $Red) $(count_shown $Blue)" = '2 2' ] || fail "the loaded game is not shown"
+for entry in 1 2 3 4; do
+    xdotool mousemove $((FormLeft + 790)) $((FormTop + 350)) click 1
+    sleep 0.3
+done
+shows 60 $Red && shows 52 $Blue && shows 68 $Empty || fail "the loaded game was not played"
+xdotool key alt+o
+sleep 0.3
+xdotool key s
+wait_for "the save dialog" is_shown '新規保存'
+sleep 0.3
+xdotool type "$Folder/copy"
+xdotool key Return
+wait_for "the saved file" cmp -s game copy
 
 xdotool key alt+F4
 wait_for "the end of the program" eval '! kill -0 $GameProcess 2>/dev/null'

@@ -5,6 +5,7 @@
 
 #include <QMenu>
 #include <QMenuBar>
+#include <QPointer>
 #include <QTimer>
 
 namespace brastel {
@@ -85,25 +86,56 @@ void WindowTest::ChooseFromMenu(const char* menu, const char* item) {
     QTest::mouseClick(popup->windowHandle(), Qt::LeftButton, {}, place);
 }
 
-void WindowTest::ChoosePieceNumber(const char* button) {
-    QTimer poll;
-    bool answered = false;
-    QObject::connect(&poll, &QTimer::timeout, [&] {
+/// Every poll is a timer of its own: a timer does not fire again while its answer still runs, and
+/// answers open further boxes.
+void WindowTest::PollDialogs() {
+    QTimer::singleShot(5, &Window, [this] {
+        if (!IsPolling) return;
+        PollDialogs();
         QWidget* dialog = QApplication::activeModalWidget();
-        if (dialog == nullptr) return;
-        answered = true;
-        poll.stop();
-        EXPECT_FALSE(Window.isVisible());
-        auto* chosen = dialog->findChild<QWidget*>(button);
-        if (chosen == nullptr) {
+        if (dialog == nullptr || dialog->property("answered").toBool()) return;
+        dialog->setProperty("answered", true);
+        if (Answers.empty()) {
+            ADD_FAILURE() << "unexpected: " << dialog->windowTitle().toStdString();
             dialog->close();
             return;
         }
-        QTest::mouseClick(dialog->windowHandle(), Qt::LeftButton, {}, chosen->geometry().center());
+        const Answer answer = Answers.front();
+        Answers.erase(Answers.begin());
+        const QPointer<QWidget> guard(dialog);
+        answer(*dialog);
+        if (guard == nullptr || !dialog->isVisible()) return;
+        ADD_FAILURE() << "left open: " << dialog->windowTitle().toStdString();
+        dialog->close();
     });
-    poll.start(10);
-    ChooseFromMenu("mnu_Options", "mnu_GameSize");
-    EXPECT_TRUE(answered);
+}
+
+void WindowTest::ChooseAndAnswer(const char* menu, const char* item, std::vector<Answer> answers) {
+    Answers = std::move(answers);
+    IsPolling = true;
+    PollDialogs();
+    ChooseFromMenu(menu, item);
+    IsPolling = false;
+    EXPECT_TRUE(Answers.empty()) << "a dialog did not open";
+}
+
+void WindowTest::ClickIn(QWidget& dialog, const char* name) {
+    auto* control = dialog.findChild<QWidget*>(name);
+    if (control == nullptr) {
+        dialog.close();
+        return;
+    }
+    const QPoint centre = control->mapTo(&dialog, control->rect().center());
+    QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, centre);
+}
+
+void WindowTest::ChoosePieceNumber(const char* button) {
+    ChooseAndAnswer("mnu_Options", "mnu_GameSize", {[this, button](QWidget& dialog) {
+                        EXPECT_FALSE(Window.isVisible());
+                        EXPECT_EQ(dialog.windowTitle(), "About Orvel Geme");
+                        EXPECT_EQ(dialog.size(), QSize(477, 353));
+                        ClickIn(dialog, button);
+                    }});
     EXPECT_TRUE(Window.isVisible());
 }
 

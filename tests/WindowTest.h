@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <vector>
 
 namespace brastel {
 
@@ -33,8 +34,16 @@ protected:
     void ClickAt(QPoint point);
     void ClickButton(const char* name);
     void ChooseFromMenu(const char* menu, const char* item);
+
+    // ---- Dialogs ----
+    using Answer = std::function<void(QWidget& dialog)>;
+    /// Chooses a menu item and gives each dialog or box that then opens the next of the answers.
+    /// One without an answer, and an answer without a dialog, is a failure.
+    void ChooseAndAnswer(const char* menu, const char* item, std::vector<Answer> answers);
     /// Chooses Change Piece Number and leaves the dialog by the named button.
     void ChoosePieceNumber(const char* button);
+    /// Clicks a control of a dialog with the mouse; closes the dialog if it has no such control.
+    static void ClickIn(QWidget& dialog, const char* name);
 
     // ---- What the window shows ----
     template <typename T>
@@ -56,6 +65,10 @@ protected:
 
 private:
     QPoint InWindow(QPoint point) { return Form->mapTo(&Window, point); }
+    void PollDialogs();
+
+    std::vector<Answer> Answers;
+    bool IsPolling = false;
 };
 
 }  // namespace brastel

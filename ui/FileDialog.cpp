@@ -98,12 +98,15 @@ void FileDialog::ConnectControls() {
     cancel->setAutoDefault(false);
     connect(ok, &QPushButton::clicked, this, [this] { Confirm(); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    connect(filOpenSave, &QListWidget::itemClicked, this,
-            [this] { After(ClickFile(filOpenSave->currentRow())); });
+    // The lists stay as they are here: refilled, they would not know the second click of a pair.
+    connect(filOpenSave, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
+        ClickFile(filOpenSave->row(item));
+        txtOpenSave->setText(Shown(Chooser.NameBox));
+    });
     connect(filOpenSave, &QListWidget::itemDoubleClicked, this,
-            [this] { After(ChooseFile(filOpenSave->currentRow())); });
+            [this](QListWidgetItem* item) { After(ChooseFile(filOpenSave->row(item))); });
     connect(dirOpenSave, &QListWidget::itemDoubleClicked, this,
-            [this] { After(ChooseFolder(dirOpenSave->currentRow())); });
+            [this](QListWidgetItem* item) { After(ChooseFolder(dirOpenSave->row(item))); });
     connect(drvOpenSave, &QComboBox::activated, this,
             [this](int drive) { After(ChooseDrive(drive)); });
 }

@@ -1,0 +1,287 @@
+#include "core/StartPosition.h"
+#include "files/FileChooser.h"
+#include "files/GameFile.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "tests/WindowTest.h"
+#include "ui/Layout.h"
+
+#include <QComboBox>
+#include <QDir>
+#include <QFile>
+#include <QListWidget>
+#include <QMessageBox>
+#include <QTemporaryDir>
+
+namespace brastel {
+
+namespace {
+
+constexpr const char* Options = "mnu_Options";
+constexpr const char* LoadItem = "mnuFileItem1";
+constexpr const char* SaveItem = "mnuFileItem2";
+
+/// Save and load through the real dialogs, in a folder of the test's own.
+class FileDialogTest : public WindowTest {
+protected:
+    FileDialogTest() {
+        QDir::setCurrent(Folder.path());
+        ChosenFileName.clear();
+        LoadedFileName.clear();
+        LoadedCount = 0;
+    }
+    ~FileDialogTest() override { QDir::setCurrent(Before); }
+
+    // ---- Answers ----
+
+    static void Type(QWidget& dialog, const QString& text) {
+        dialog.findChild<QLineEdit*>("txtOpenSave")->setText(text);
+        ClickIn(dialog, "cmdOpenSave0");
+    }
+    static Answer Name(const QString& text) {
+        return [text](QWidget& dialog) { Type(dialog, text); };
+    }
+    static Answer Button(const char* name) {
+        return [name](QWidget& dialog) { ClickIn(dialog, name); };
+    }
+    static Answer Key(Qt::Key key) {
+        return [key](QWidget& dialog) { QTest::keyClick(dialog.windowHandle(), key); };
+    }
+    static Answer DoubleClickFile(const QString& name) {
+        return [name](QWidget& dialog) {
+            auto* list = dialog.findChild<QListWidget*>("filOpenSave");
+            const auto items = list->findItems(name, Qt::MatchExactly);
+            ASSERT_EQ(items.size(), 1);
+            const QPoint place = list->visualItemRect(items[0]).center();
+            QTest::mouseDClick(dialog.windowHandle(), Qt::LeftButton, {},
+                               list->viewport()->mapTo(&dialog, place));
+        };
+    }
+    /// Checks a message box word for word and leaves it by a button.
+    static Answer Box(const QString& text, const QString& title, QMessageBox::Icon icon,
+                      QMessageBox::StandardButton standard, QMessageBox::StandardButton chosen) {
+        return [=](QWidget& dialog) {
+            auto* box = qobject_cast<QMessageBox*>(&dialog);
+            ASSERT_NE(box, nullptr);
+            EXPECT_EQ(box->text(), text);
+            EXPECT_EQ(box->windowTitle(), title);
+            EXPECT_EQ(box->icon(), icon);
+            EXPECT_EQ(box->standardButton(box->defaultButton()), standard);
+            const QWidget* button = box->button(chosen);
+            QTest::mouseClick(box->windowHandle(), Qt::LeftButton, {},
+                              button->mapTo(box, button->rect().center()));
+        };
+    }
+    static Answer Overwrite(QMessageBox::StandardButton chosen) {
+        return Box("ファイルを上書きしますか？", "メニュー", QMessageBox::NoIcon, QMessageBox::No,
+                   chosen);
+    }
+    static Answer ErrorBox(int number) {
+        return Box(QString("エラーが発生しました。もう一度実行してください。%1").arg(number),
+                   "テキストエディタ", QMessageBox::Warning, QMessageBox::Ok, QMessageBox::Ok);
+    }
+
+    // ---- Files ----
+
+    QString PathOf(const QString& name) const { return Folder.filePath(name); }
+    QByteArray Bytes(const QString& name) const {
+        QFile file(PathOf(name));
+        EXPECT_TRUE(file.open(QIODevice::ReadOnly));
+        return file.readAll();
+    }
+    void Write(const QString& name, const QByteArray& bytes) const {
+        QFile file(PathOf(name));
+        ASSERT_TRUE(file.open(QIODevice::WriteOnly));
+        file.write(bytes);
+    }
+
+    /// Two people have placed their rings and moved once each.
+    void PlayTwoMoves() {
+        OpenForTwo(3, 68, 44);
+        Drag(66, 58);
+        Drag(42, 50);
+    }
+
+    const QTemporaryDir Folder;
+    const QString Before = QDir::currentPath();
+};
+
+TEST_F(FileDialogTest, AGameIsSavedOverwrittenLoadedAndSteppedThrough) {
+    PlayTwoMoves();
+    const Position played = Pos;
+    ChooseAndAnswer(Options, SaveItem, {Name("a game")});
+    const QByteArray saved = Bytes("a game");
+    EXPECT_TRUE(saved.startsWith(" 8  8 \r\n 4 \r\n 66 \r\n"));
+    EXPECT_TRUE(saved.endsWith(" 4 \r\n 68  0 \r\n 44  0 \r\n 66  58 \r\n 42  50 \r\n"));
+    EXPECT_EQ(ChosenFileName, "") << "a typed new name is not proposed again";
+
+    Drag(67, 59);
+    ChooseAndAnswer(Options, SaveItem, {DoubleClickFile("a game"), Overwrite(QMessageBox::No)});
+    EXPECT_EQ(Bytes("a game"), saved);
+    ChooseAndAnswer(Options, SaveItem,
+                    {[this](QWidget& dialog) {
+                         EXPECT_EQ(dialog.windowTitle(), "新規保存");
+                         auto* name = dialog.findChild<QLineEdit*>("txtOpenSave");
+                         EXPECT_EQ(name->selectedText(), PathOf("a game"));
+                         ClickIn(dialog, "cmdOpenSave0");
+                     },
+                     Overwrite(QMessageBox::Yes)});
+    EXPECT_TRUE(Bytes("a game").endsWith(" 67  59 \r\n"));
+    EXPECT_EQ(Pos.MoveCount, 6) << "saving does not touch the game";
+
+    Write("a game", saved);
+    Open(0);
+    ChooseAndAnswer(Options, LoadItem, {DoubleClickFile("a game")});
+    EXPECT_EQ(Pos.RedCount, 8);
+    EXPECT_EQ(Level, 1);
+    EXPECT_TRUE(IsItemChecked("mnu_Easy"));
+    EXPECT_FALSE(IsShown("btn_Backward"));
+    for (int n = 0; n < 4; ++n) {
+        EXPECT_TRUE(IsShown("btn_Forward"));
+        ClickButton("btn_Forward");
+        ExpectViewShowsPosition();
+    }
+    EXPECT_FALSE(IsShown("btn_Forward"));
+    EXPECT_EQ(Pos, played);
+    for (int n = 0; n < 4; ++n) ClickButton("btn_Backward");
+    EXPECT_EQ(Pos.MoveCount, 1);
+    EXPECT_FALSE(IsShown("btn_Backward"));
+
+    // The same file again is not read, yet its game can be stepped through again.
+    ClickButton("btn_Forward");
+    QFile::remove(PathOf("a game"));
+    Write("a game", "damaged");
+    ChooseAndAnswer(Options, LoadItem, {Name(PathOf("a game"))});
+    EXPECT_EQ(Pos.MoveCount, 1);
+    EXPECT_TRUE(IsShown("btn_Forward"));
+}
+
+TEST_F(FileDialogTest, LeavingTheLoadDialogGoesBackToTheStart) {
+    for (const Answer& leave : {Button("cmdOpenSave1"), Key(Qt::Key_Escape)}) {
+        PlayTwoMoves();
+        ChooseAndAnswer(Options, LoadItem, {leave});
+        EXPECT_EQ(Pos.MoveCount, 1);
+        EXPECT_FALSE(IsShown("btn_Backward"));
+        EXPECT_TRUE(IsShown("btn_Forward"));
+        EXPECT_TRUE(Window.isVisible());
+        ExpectViewShowsPosition();
+        ClickButton("btn_Forward");
+        EXPECT_FALSE(IsShown("btn_Forward")) << "no game has been loaded";
+    }
+    PlayTwoMoves();
+    ChooseAndAnswer(Options, SaveItem, {Button("cmdOpenSave1")});
+    EXPECT_EQ(Pos.MoveCount, 5);
+}
+
+TEST_F(FileDialogTest, TypedNamesAreTold) {
+    QDir(Folder.path()).mkdir("unter");
+    Write("one.brs", "1");
+    Write("two.txt", "2");
+    Open(3);
+    const auto tryNames = [this](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "開く");
+        EXPECT_EQ(dialog.size(), QSize(480, 267));
+        auto* name = dialog.findChild<QLineEdit*>("txtOpenSave");
+        auto* files = dialog.findChild<QListWidget*>("filOpenSave");
+        EXPECT_EQ(name->selectedText(), "*.*");
+        EXPECT_EQ(files->count(), 2);
+        Type(dialog, "*.brs");
+        EXPECT_EQ(files->count(), 1);
+        EXPECT_EQ(name->text(), "*.brs");
+        Type(dialog, "unter");
+        EXPECT_EQ(files->count(), 0);
+        EXPECT_EQ(QDir::currentPath(), QDir(PathOf("unter")).canonicalPath());
+        Type(dialog, "..");
+        name->setText("missing");
+        // Enter is OK.
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
+        EXPECT_TRUE(dialog.isVisible());
+        ClickIn(dialog, "cmdOpenSave1");
+    };
+    ChooseAndAnswer(Options, LoadItem,
+                    {tryNames, Box("ファイルが存在しません。", "Brastel", QMessageBox::Warning,
+                                   QMessageBox::Ok, QMessageBox::Ok)});
+}
+
+TEST_F(FileDialogTest, FoldersAndDrivesAreChosenWithTheMouse) {
+    QDir(Folder.path()).mkpath("unter");
+    Write("unter/x", "1");
+    Open(3);
+    ChooseAndAnswer(
+        Options, LoadItem, {[](QWidget& dialog) {
+            auto* folders = dialog.findChild<QListWidget*>("dirOpenSave");
+            auto* files = dialog.findChild<QListWidget*>("filOpenSave");
+            const QListWidgetItem* last = folders->item(folders->count() - 1);
+            EXPECT_EQ(last->text().trimmed(), "unter");
+            folders->scrollToItem(last);
+            const QPoint place = folders->visualItemRect(last).center();
+            QTest::mouseDClick(dialog.windowHandle(), Qt::LeftButton, {},
+                               folders->viewport()->mapTo(&dialog, place));
+            ASSERT_EQ(files->count(), 1);
+            QTest::mouseClick(
+                dialog.windowHandle(), Qt::LeftButton, {},
+                files->viewport()->mapTo(&dialog, files->visualItemRect(files->item(0)).center()));
+            EXPECT_EQ(dialog.findChild<QLineEdit*>("txtOpenSave")->text(), "x");
+            EXPECT_GE(dialog.findChild<QComboBox*>("drvOpenSave")->count(), 1);
+            ClickIn(dialog, "cmdOpenSave1");
+        }});
+}
+
+TEST_F(FileDialogTest, AFailedLoadLeavesTheWindowUsable) {
+    PlayTwoMoves();
+    ChooseAndAnswer(Options, SaveItem, {Name("good")});
+    Write("bad", " 13  8 \r\n 4 \r\n 66  67  68  69  70  71  28  29  74  79  27  30 \r\n 31 ");
+    ChooseAndAnswer(Options, LoadItem, {Name("bad"), ErrorBox(6)});
+    EXPECT_EQ(Pos.RedCount, 13);
+    EXPECT_EQ(PieceCount(Red), MaxPieces);
+    EXPECT_TRUE(Window.isVisible());
+    ExpectViewShowsPosition();
+    DoubleClick(66);
+    ClickButton("btn_Hint");
+    ExpectViewShowsPosition();
+    ChooseAndAnswer(Options, LoadItem, {Name(PathOf("good"))});
+    EXPECT_EQ(Pos.RedCount, 8);
+    EXPECT_EQ(LoadedCount, 4);
+    ExpectViewShowsPosition();
+}
+
+TEST_F(FileDialogTest, TheCloseBoxEndsTheProgram) {
+    PlayTwoMoves();
+    ChooseAndAnswer(Options, SaveItem, {[](QWidget& dialog) { dialog.close(); }});
+    EXPECT_FALSE(Window.isVisible());
+    EXPECT_TRUE(Window.IsClosing());
+    EXPECT_EQ(Pos.MoveCount, 5);
+}
+
+TEST_F(FileDialogTest, TheRulesAreShownLineByLine) {
+    QImage first;
+    const auto look = [&first](QWidget& dialog) {
+        EXPECT_EQ(dialog.windowTitle(), "Orvel Game Rules");
+        EXPECT_EQ(dialog.size(), QSize(1077, 912));
+        const QImage picture = dialog.grab().toImage();
+        QFont font = JapaneseFont(13.2);
+        font.setBold(true);
+        const int lineHeight = QFontMetrics(font).height();
+        // The middle of a line, which descenders of the line above do not reach.
+        const auto isWritten = [&](int line) {
+            const QImage band = picture.copy(0, (line - 1) * lineHeight + 6, 800, lineHeight - 10);
+            QImage blank = band;
+            blank.fill(Qt::white);
+            return band != blank;
+        };
+        for (const int line : {3, 5, 22, 30, 31}) EXPECT_TRUE(isWritten(line)) << line;
+        for (const int line : {1, 2, 4, 29, 33, 34, 35, 36}) EXPECT_FALSE(isWritten(line)) << line;
+        if (first.isNull()) first = picture;
+        EXPECT_EQ(picture, first);
+        QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
+        EXPECT_TRUE(dialog.isVisible());
+        ClickIn(dialog, "btn_OK");
+        EXPECT_FALSE(dialog.isVisible());
+    };
+    ChooseAndAnswer("mnu_Help", "mnu_Rules", {look});
+    ChooseAndAnswer("mnu_Help", "mnu_Rules", {look});
+}
+
+}  // namespace
+
+}  // namespace brastel
