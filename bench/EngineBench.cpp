@@ -26,7 +26,7 @@ void SetUpMiddleGame() {
 /// Items are candidates listed and scored.
 void Generation(benchmark::State& state) {
     SetUpMiddleGame();
-    for (auto _ : state) GenerateMoves(1);
+    while (state.KeepRunning()) GenerateMoves(1);
     state.SetItemsProcessed(state.iterations() * CandidateCount[1]);
 }
 BENCHMARK(Generation);
@@ -36,7 +36,7 @@ void QuietMoveAndTakeBack(benchmark::State& state) {
     GenerateMoves(1);
     const Position saved = Pos;
     const MoveCode code = MoveList[1][1];
-    for (auto _ : state) {
+    while (state.KeepRunning()) {
         ApplyMoveQuiet(OriginOf(code), DestinationOf(code));
         Pos = saved;
         benchmark::DoNotOptimize(Pos);
@@ -46,7 +46,7 @@ BENCHMARK(QuietMoveAndTakeBack);
 
 void Search(benchmark::State& state) {
     SetUpMiddleGame();
-    for (auto _ : state) ChooseCandidate(static_cast<Int16>(state.range(0)));
+    while (state.KeepRunning()) ChooseCandidate(static_cast<Int16>(state.range(0)));
 }
 BENCHMARK(Search)->DenseRange(1, 7)->Unit(benchmark::kMillisecond);
 

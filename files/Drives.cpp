@@ -82,8 +82,7 @@ std::vector<std::string> DrivesIn(std::string_view mountTable) {
         if (isChosen) drives.push_back(mount.Place);
     }
     std::ranges::sort(drives);
-    const auto repeated = std::ranges::unique(drives);
-    drives.erase(repeated.begin(), repeated.end());
+    drives.erase(std::unique(drives.begin(), drives.end()), drives.end());
     drives.insert(drives.begin(), std::string(Root));
     return drives;
 }

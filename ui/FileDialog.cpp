@@ -127,7 +127,7 @@ void FileDialog::ShowFolders() {
     dirOpenSave->clear();
     int current = 0;
     for (const FolderRow& row : Chooser.Folders) {
-        const QString indent(row.Depth * IndentPerLevel, ' ');
+        const QString indent(qsizetype{row.Depth} * IndentPerLevel, ' ');
         new QListWidgetItem(icon, indent + Shown(row.Name), dirOpenSave);
         if (row.Path == Chooser.Folder) current = dirOpenSave->count() - 1;
     }

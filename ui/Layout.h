@@ -31,7 +31,7 @@ struct TwipRect {
 };
 
 /// Point sizes are meant for 120 dots per inch, too.
-constexpr int FontPixels(double points) { return static_cast<int>(points * 120 / 72 + 0.5); }
+constexpr int FontPixels(double points) { return qRound(points * 120 / 72); }
 
 /// The platform's Japanese proportional gothic font in this size. Other fonts lack half-width
 /// katakana.
