@@ -7,6 +7,12 @@ VirtualDisplayPackages=(xvfb xdotool imagemagick)
 TestPackages=(libgtest-dev libbenchmark-dev openbox x11-utils)
 CheckPackages=(clang-format clang-tidy)
 
+# Asks for the password only where somebody can type it.
+may_use_sudo() {
+    command -v sudo >/dev/null || return 1
+    if [ -t 0 ]; then sudo -v; else sudo -n true 2>/dev/null; fi
+}
+
 # Installs what is missing of the packages named. Without the right to do so it prints the command
 # that would and ends the script.
 need_packages() {
@@ -18,7 +24,7 @@ need_packages() {
     [ ${#missing[@]} -eq 0 ] && return
     local as_root=()
     if [ "$(id -u)" -ne 0 ]; then
-        if ! sudo -n true 2>/dev/null && ! { [ -t 0 ] && command -v sudo >/dev/null; }; then
+        if ! may_use_sudo; then
             echo "Packages are missing. Install them with this command, then start again:" >&2
             echo "  su -c 'apt-get update && apt-get install -y ${missing[*]}'" >&2
             exit 1
@@ -33,7 +39,7 @@ need_packages() {
 
 # Configures and builds a preset, or only the target named after it. CMakeOptions may hold further
 # options for the configuration.
-CMakeOptions=()
+CMakeOptions=(-DCMAKE_COMPILE_WARNING_AS_ERROR=OFF)
 build_preset() {
     mkdir -p build
     cmake --preset "$1" "${CMakeOptions[@]}" >build/configure.log || { cat build/configure.log; exit 1; }

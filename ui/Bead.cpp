@@ -1,5 +1,7 @@
 #include "ui/Bead.h"
 
+#include "ui/Layout.h"
+
 #include <QBrush>
 #include <QColor>
 #include <QPainter>
@@ -12,29 +14,27 @@
 namespace brastel {
 namespace {
 
-constexpr QRgb Ground = qRgb(192, 192, 192);
-constexpr qreal MaxDeviceEdge = 4096.0;
 constexpr QPointF Centre(BeadEdge / 2, BeadEdge / 2);
 
 struct Stop {
-    qreal at;
-    QRgb color;
+    qreal At;
+    QRgb Color;
 };
 
 /// An ellipse of light or shade, turned about its centre, whose gradient runs from the centre (0)
 /// to the outline (1).
 struct Spot {
-    QPointF centre;
-    qreal radiusX;
-    qreal radiusY;
-    qreal degrees;
+    QPointF Centre;
+    qreal RadiusX;
+    qreal RadiusY;
+    qreal Degrees;
 };
 
 /// The colours in which the two kinds of glass differ.
 struct Glass {
-    std::array<Stop, 7> body;
-    std::array<Stop, 5> depth;
-    std::array<Stop, 5> caustic;
+    std::array<Stop, 7> Body;
+    std::array<Stop, 5> Depth;
+    std::array<Stop, 5> Caustic;
 };
 
 // The body is flat at the main colour around the centre, and every other layer stays clear of
@@ -108,16 +108,16 @@ const Glass& GlassOf(int side) { return side == 1 ? CyanGlass : MagentaGlass; }
 template <std::size_t N>
 QBrush RadialBrush(QPointF centre, qreal radius, const std::array<Stop, N>& stops) {
     QRadialGradient gradient(centre, radius);
-    for (const Stop& stop : stops) gradient.setColorAt(stop.at, QColor::fromRgba(stop.color));
+    for (const Stop& stop : stops) gradient.setColorAt(stop.At, QColor::fromRgba(stop.Color));
     return gradient;
 }
 
 template <std::size_t N>
 void PaintSpot(QPainter& painter, const Spot& spot, const std::array<Stop, N>& stops) {
     painter.save();
-    painter.translate(spot.centre);
-    painter.rotate(spot.degrees);
-    painter.scale(spot.radiusX, spot.radiusY);
+    painter.translate(spot.Centre);
+    painter.rotate(spot.Degrees);
+    painter.scale(spot.RadiusX, spot.RadiusY);
     painter.setBrush(RadialBrush({0, 0}, 1, stops));
     painter.drawEllipse(QPointF(0, 0), 1, 1);
     painter.restore();
@@ -138,9 +138,9 @@ void PaintBead(QPainter& painter, int side) {
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     PaintSpot(painter, Shadow, ShadowStops);
-    PaintSpot(painter, Body, glass.body);
-    PaintDepth(painter, glass.depth);
-    PaintSpot(painter, Caustic, glass.caustic);
+    PaintSpot(painter, Body, glass.Body);
+    PaintDepth(painter, glass.Depth);
+    PaintSpot(painter, Caustic, glass.Caustic);
     PaintSpot(painter, Halo, HaloStops);
     PaintSpot(painter, Glint, GlintStops);
     painter.restore();
@@ -148,10 +148,10 @@ void PaintBead(QPainter& painter, int side) {
 
 QPixmap BeadPicture(int side, int size, qreal ratio) {
     // Written so that a ratio that is not a number fails the test as well.
-    if (size < 1 || !(ratio > 0) || !(size * ratio <= MaxDeviceEdge)) return {};
+    if (size < 1 || !(ratio > 0)) return {};
     const int edge = qMax(1, qRound(size * ratio));
     QPixmap picture(edge, edge);
-    picture.fill(QColor::fromRgb(Ground));
+    picture.fill(WindowGround);
     QPainter painter(&picture);
     painter.scale(edge / BeadEdge, edge / BeadEdge);
     PaintBead(painter, side);

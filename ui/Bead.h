@@ -31,8 +31,8 @@ void PaintBead(QPainter& painter, int side);
 /// every call: callers keep it.
 ///
 /// `side` is 1 for Blue (cyan glass); any other value counts as Red (magenta glass).
-/// A null pixmap comes back if `size` is below 1, if `ratio` is not above 0, or if the edge
-/// would exceed 4096 device pixels. Needs a QGuiApplication, on the GUI thread.
+/// A null pixmap comes back if `size` is below 1 or `ratio` not above 0. Needs a QGuiApplication,
+/// on the GUI thread.
 QPixmap BeadPicture(int side, int size, qreal ratio);
 
 }  // namespace brastel

@@ -48,10 +48,8 @@ void PaintSquares(QPainter& painter) {
 }
 
 void PaintFieldLines(QPainter& painter) {
-    constexpr int Half = FieldLineWidth / 2;
     for (const Line& line : FieldLines) {
-        const QRect path(line.From, line.To);
-        FillSharp(painter, path.adjusted(-Half, -Half, Half, Half));
+        PaintSharpLine(painter, line.From, line.To, FieldLineWidth);
     }
 }
 

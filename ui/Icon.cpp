@@ -17,11 +17,11 @@ namespace {
 /// The measures of one pixmap, in pixels. They are no fixed shares of the size: a small icon needs
 /// a heavier ring for it to stay black, and discs that begin and end between two pixels.
 struct Variant {
-    int size;
-    qreal ringDiameter;
-    qreal ringWidth;
-    qreal gleam;
-    qreal cyanDiameter;
+    int Size;
+    qreal RingDiameter;
+    qreal RingWidth;
+    qreal Gleam;
+    qreal CyanDiameter;
 };
 
 constexpr std::array<Variant, 7> Variants = {{
@@ -40,52 +40,52 @@ constexpr QColor Gleam(232, 232, 240, 160);
 constexpr qreal ShadowRoom = 0.012;
 
 struct Disc {
-    QPointF centre;
-    qreal radius;
+    QPointF Centre;
+    qreal Radius;
 };
 
 // The ring sits in the lower left corner, inside its gleam; the cyan bead in the upper right.
 Disc RingDisc(const Variant& variant) {
-    const qreal radius = variant.ringDiameter / 2;
-    const qreal inset = variant.gleam + radius;
-    return {{inset, variant.size - inset}, radius};
+    const qreal radius = variant.RingDiameter / 2;
+    const qreal inset = variant.Gleam + radius;
+    return {{inset, variant.Size - inset}, radius};
 }
 
 Disc CyanDisc(const Variant& variant) {
-    const qreal radius = variant.cyanDiameter / 2;
-    const int room = qRound(ShadowRoom * variant.size);
-    return {{variant.size - room - radius, radius}, radius};
+    const qreal radius = variant.CyanDiameter / 2;
+    const int room = qRound(ShadowRoom * variant.Size);
+    return {{variant.Size - room - radius, radius}, radius};
 }
 
 void PaintBeadAt(QPainter& painter, int side, const Disc& disc) {
     painter.save();
-    painter.translate(disc.centre);
-    painter.scale(disc.radius / BeadRadius, disc.radius / BeadRadius);
+    painter.translate(disc.Centre);
+    painter.scale(disc.Radius / BeadRadius, disc.Radius / BeadRadius);
     painter.translate(-BeadEdge / 2, -BeadEdge / 2);
     PaintBead(painter, side);
     painter.restore();
 }
 
 void PaintRing(QPainter& painter, const Disc& disc, qreal width, const QColor& color) {
-    const qreal radius = disc.radius - width / 2;
+    const qreal radius = disc.Radius - width / 2;
     painter.setBrush(Qt::NoBrush);
     painter.setPen(QPen(color, width));
-    painter.drawEllipse(disc.centre, radius, radius);
+    painter.drawEllipse(disc.Centre, radius, radius);
 }
 
 /// The gleam is a pale line around the ring, which would be lost on a dark ground without it; at
 /// the smallest size it would only blur the ring, so there its width is 0.
 void PaintCarrier(QPainter& painter, const Variant& variant) {
     const Disc ring = RingDisc(variant);
-    const Disc gleam = {ring.centre, ring.radius + variant.gleam};
-    const Disc bead = {ring.centre, ring.radius - variant.ringWidth / 3};
-    if (variant.gleam > 0) PaintRing(painter, gleam, variant.gleam + 0.5, Gleam);
+    const Disc gleam = {ring.Centre, ring.Radius + variant.Gleam};
+    const Disc bead = {ring.Centre, ring.Radius - variant.RingWidth / 3};
+    if (variant.Gleam > 0) PaintRing(painter, gleam, variant.Gleam + 0.5, Gleam);
     PaintBeadAt(painter, -1, bead);
-    PaintRing(painter, ring, variant.ringWidth, Qt::black);
+    PaintRing(painter, ring, variant.RingWidth, Qt::black);
 }
 
 QPixmap PaintVariant(const Variant& variant) {
-    QPixmap pixmap(variant.size, variant.size);
+    QPixmap pixmap(variant.Size, variant.Size);
     pixmap.fill(Qt::transparent);
     QPainter painter(&pixmap);
     painter.setRenderHint(QPainter::Antialiasing);

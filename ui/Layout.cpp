@@ -2,8 +2,20 @@
 
 #include <QFontMetrics>
 #include <QScreen>
+#include <QStyle>
 
 namespace brastel {
+
+namespace {
+
+/// Before a window is first shown only a guess tells how much its frame will add.
+QSize FrameSize(const QWidget& window) {
+    const QSize known = window.frameGeometry().size();
+    if (known != window.size()) return known;
+    return window.size() + QSize(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
+}
+
+}  // namespace
 
 QFont JapaneseFont(double points) {
     QFont font;
@@ -26,7 +38,9 @@ void FixInnerArea(QWidget& window, int widthTwips, int heightTwips, int extraHei
 void CentreOnScreen(QWidget& window) {
     const QRect whole = window.screen()->geometry();
     const QRect usable = window.screen()->availableGeometry();
-    const QPoint corner = whole.center() - window.rect().center();
+    const QSize size = FrameSize(window);
+    const QPoint corner((whole.left() + whole.right() + 1 - size.width()) / 2,
+                        (whole.top() + whole.bottom() + 1 - size.height()) / 2);
     window.move(qMax(corner.x(), usable.left()), qMax(corner.y(), usable.top()));
 }
 

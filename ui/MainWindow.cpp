@@ -97,8 +97,8 @@ MainWindow::MainWindow() {
 }
 
 MainWindow::~MainWindow() {
-    SetView(nullptr);
-    SetFileView(nullptr);
+    if (View == this) SetView(nullptr);
+    if (FileWindows == this) SetFileView(nullptr);
 }
 
 void MainWindow::BuildWindow() {
@@ -184,9 +184,16 @@ void MainWindow::ShowTurn(Int16 side) { Form->ShowTurn(side); }
 
 void MainWindow::Beep() { QApplication::beep(); }
 
-void MainWindow::ShowForward(bool visible) { btn_Forward->setVisible(visible); }
+void MainWindow::ShowForward(bool visible) { ShowStepButton(*btn_Forward, visible); }
 
-void MainWindow::ShowBackward(bool visible) { btn_Backward->setVisible(visible); }
+void MainWindow::ShowBackward(bool visible) { ShowStepButton(*btn_Backward, visible); }
+
+/// A button that is hidden gives the keyboard to the board. Qt would hand it on to the next button,
+/// and a player who steps back with the space bar would suddenly play hints.
+void MainWindow::ShowStepButton(QPushButton& button, bool visible) {
+    if (!visible && button.hasFocus()) Form->setFocus();
+    button.setVisible(visible);
+}
 
 void MainWindow::ShowBusy(bool busy) {
     if (busy) {
@@ -221,8 +228,9 @@ void MainWindow::ShowWarning(const std::string& text, const std::string& title) 
     RunMessageBox(QMessageBox::Warning, text, title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-/// Also in the middle of a computer move: the window disappears, the move is not played, and the
-/// program ends when the event loop is reached.
+/// Also in the middle of a computer move: closed during the pause before the search, the window
+/// goes at once and no search is begun; during the search itself, when it is over. Either way the
+/// move is not played, and the program ends when the event loop is reached.
 void MainWindow::closeEvent(QCloseEvent* event) {
     Closing = true;
     event->accept();

@@ -67,6 +67,7 @@ private:
     void BuildSidePanel();
     void BuildHiddenControls();
     void ConnectInput();
+    void ShowStepButton(QPushButton& button, bool visible);
     /// Runs the file dialog; closing it by its close box closes this window, too. False then.
     bool RunFileDialog(ChooserMode mode);
 

@@ -3,6 +3,7 @@
 #include "engine/Strengths.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "ui/Layout.h"
 #include "ui/MainWindow.h"
 
 #include <QMenuBar>
@@ -51,8 +52,9 @@ void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) 
         }
         QAction* action = menu.addAction(item.Caption);
         action->setObjectName(item.Name);
-        QObject::connect(action, &QAction::triggered, &window,
-                         [&window, command = item.Command] { command(window); });
+        QObject::connect(action, &QAction::triggered, &window, [&window, command = item.Command] {
+            if (!IsThinking) command(window);
+        });
     }
 }
 
@@ -63,7 +65,10 @@ void AddLevel(QMenu& menu, QActionGroup& levels, std::string_view name, std::str
     action->setCheckable(true);
     action->setData(level);
     levels.addAction(action);
-    QObject::connect(action, &QAction::triggered, [level] { SetLevel(level); });
+    QObject::connect(action, &QAction::triggered, &levels, [level, &levels] {
+        SetLevel(level);
+        CheckLevel(levels, Level);
+    });
 }
 
 QActionGroup* AddLevels(QMenu& menu) {
@@ -79,6 +84,9 @@ QActionGroup* AddLevels(QMenu& menu) {
 }  // namespace
 
 QActionGroup* BuildMenus(MainWindow& window) {
+    // In the window on every desktop: its height belongs to the window's.
+    window.menuBar()->setNativeMenuBar(false);
+    window.menuBar()->setPalette(QPalette(WindowGround));
     AddItems(*AddMenu(window, "mnu_Options", "&Options"), window, OptionsItems);
     QActionGroup* levels = AddLevels(*AddMenu(window, "mnu_Level", "&Level"));
     AddItems(*AddMenu(window, "mnu_Help", "&Help"), window, HelpItems);

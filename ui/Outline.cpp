@@ -2,19 +2,22 @@
 
 namespace brastel {
 
-void FillSharp(QPainter& painter, const QRect& rect) {
-    const qreal ratio = painter.device()->devicePixelRatioF();
-    const auto snap = [ratio](int length) { return qRound(length * ratio) / ratio; };
-    painter.fillRect(
-        QRectF(snap(rect.left()), snap(rect.top()), snap(rect.width()), snap(rect.height())),
-        Qt::black);
+void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width) {
+    const QTransform& toDevice = painter.deviceTransform();
+    const int thickness = qMax(1, qRound(width * painter.device()->devicePixelRatioF()));
+    const QPoint half((thickness - 1) / 2, (thickness - 1) / 2);
+    const QPoint begin = toDevice.map(QPointF(from)).toPoint() - half;
+    const QPoint end = toDevice.map(QPointF(to)).toPoint() - half;
+    const QRectF device(begin,
+                        QSizeF(end.x() - begin.x() + thickness, end.y() - begin.y() + thickness));
+    painter.fillRect(toDevice.inverted().mapRect(device), Qt::black);
 }
 
 void PaintOutline(QPainter& painter, const QRect& rect) {
-    FillSharp(painter, {rect.left(), rect.top(), rect.width(), 1});
-    FillSharp(painter, {rect.left(), rect.bottom(), rect.width(), 1});
-    FillSharp(painter, {rect.left(), rect.top(), 1, rect.height()});
-    FillSharp(painter, {rect.right(), rect.top(), 1, rect.height()});
+    PaintSharpLine(painter, rect.topLeft(), rect.topRight(), 1);
+    PaintSharpLine(painter, rect.bottomLeft(), rect.bottomRight(), 1);
+    PaintSharpLine(painter, rect.topLeft(), rect.bottomLeft(), 1);
+    PaintSharpLine(painter, rect.topRight(), rect.bottomRight(), 1);
 }
 
 }  // namespace brastel

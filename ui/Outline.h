@@ -4,9 +4,11 @@
 
 namespace brastel {
 
-/// Fills a rectangle of logical pixels with black so that its edges fall on whole device pixels and
-/// equal widths stay equal, whatever the device pixel ratio.
-void FillSharp(QPainter& painter, const QRect& rect);
+/// A straight black line between two logical pixels, both included, `width` logical pixels wide
+/// with the pixels in its middle. It covers whole device pixels at every ratio, and lines of one
+/// width are equally wide and meet at their ends. The line is upright or level, `from` not right of
+/// or below `to`.
+void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width);
 
 /// A black rectangle outline, one logical pixel wide, just inside the rectangle.
 void PaintOutline(QPainter& painter, const QRect& rect);
