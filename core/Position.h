@@ -74,12 +74,14 @@ struct Piece {
 
 inline PieceSquares& SquaresOf(int side) { return side == Red ? Pos.RedSquare : Pos.BlueSquare; }
 
-/// Pieces of a side, those of an unfinished free setup included; 0 to MaxPieces whatever the
-/// counters hold.
+/// Pieces with which a side starts, 0 to MaxPieces whatever its count holds.
+inline int StartCount(int side) {
+    return std::clamp<int>(side == Red ? Pos.RedCount : Pos.BlueCount, 0, MaxPieces);
+}
+
+/// Pieces of a side now: those of an unfinished free setup, too. 0 to MaxPieces.
 inline int PieceCount(int side) {
-    const int count = side == Red ? std::max(Pos.RedCount, Pos.RedPlaced)
-                                  : std::max(Pos.BlueCount, Pos.BluePlaced);
-    return std::clamp(count, 0, MaxPieces);
+    return std::max<int>(StartCount(side), side == Red ? Pos.RedPlaced : Pos.BluePlaced);
 }
 
 /// A piece's square; NoSquare when there is no such piece.

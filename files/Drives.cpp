@@ -38,11 +38,15 @@ bool IsUserVolume(std::string_view place, std::string_view type, std::string_vie
     return isDisk || isRemote || type.starts_with("fuse.") || type == "fuseblk";
 }
 
-/// The table writes blanks and backslashes as three octal digits.
+bool IsOctal(std::string_view digits) {
+    return digits.size() == 3 && digits.find_first_not_of("01234567") == std::string_view::npos;
+}
+
+/// The table writes blanks and backslashes as a backslash and three octal digits.
 std::string Unescaped(const std::string& text) {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isEscape = text[i] == '\\' && i + 3 < text.size();
+        const bool isEscape = text[i] == '\\' && IsOctal(std::string_view(text).substr(i + 1, 3));
         plain +=
             isEscape ? static_cast<char>(std::stoi(text.substr(i + 1, 3), nullptr, 8)) : text[i];
         if (isEscape) i += 3;

@@ -52,8 +52,13 @@ void ListFiles() { Chooser.Files = FilesIn(Chooser.Folder, Chooser.Pattern); }
 /// Brings all lists in step with the working folder.
 void FollowWorkingFolder() {
     std::error_code error;
-    const fs::path folder = fs::current_path(error);
-    Chooser.Folder = error ? RootFolder : folder.string();
+    fs::path folder = fs::current_path(error);
+    if (error) {
+        // The working folder has been removed.
+        folder = RootFolder;
+        fs::current_path(folder, error);
+    }
+    Chooser.Folder = folder.string();
     Chooser.Drives = ListDrives();
     const std::string drive = DriveOf(Chooser.Drives, Chooser.Folder);
     Chooser.Drive =

@@ -36,12 +36,9 @@ std::string TableLines(const StartTable& table, Int16 count) {
     return lines;
 }
 
-/// A count left by a damaged file can exceed its table; the file written never does.
-Int16 SavedCount(Int16 count) { return ToInt16(std::clamp<int>(count, 0, MaxPieces)); }
-
 std::string GameText() {
-    const Int16 redCount = SavedCount(Pos.RedCount);
-    const Int16 blueCount = SavedCount(Pos.BlueCount);
+    const Int16 redCount = ToInt16(StartCount(Red));
+    const Int16 blueCount = ToInt16(StartCount(Blue));
     const Int16 entries = ToInt16(Pos.MoveCount - 1);
     std::string text = Line(redCount, blueCount);
     text += TableLines(RedStart, redCount) + TableLines(BlueStart, blueCount);

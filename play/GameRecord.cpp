@@ -33,7 +33,7 @@ StartSquares LoadedStart;
 
 /// Leaves out what the pieces' places do not depend on: ring squares and entries beyond the counts.
 StartSquares CurrentStart() {
-    StartSquares start{PieceCount(Red), PieceCount(Blue), {}, {}};
+    StartSquares start{StartCount(Red), StartCount(Blue), {}, {}};
     for (int i = 1; i <= start.RedCount; ++i) start.RedSquares[i] = RedStart[i];
     for (int i = 1; i <= start.BlueCount; ++i) start.BlueSquares[i] = BlueStart[i];
     return start;
