@@ -86,6 +86,15 @@ TEST_F(MainWindowTest, PushingBackIsRefusedWithAMessage) {
     EXPECT_EQ(Message(), "You Cant't Push Back");
 }
 
+/// The keyboard went on to the Hint button when Backward disappeared, and the next press of the
+/// space bar played a move.
+TEST_F(MainWindowTest, SteppingBackWithTheSpaceBarStopsAtTheStart) {
+    OpenForTwo(3, 68, 44);
+    Control<QWidget>("btn_Backward")->setFocus();
+    for (int n = 0; n < 4; ++n) QTest::keyClick(Window.windowHandle(), Qt::Key_Space);
+    EXPECT_EQ(Pos.MoveCount, 1);
+}
+
 /// Clicks of impatient players used to be played after the search, as moves nobody had meant.
 TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
     Open(3);
@@ -100,6 +109,10 @@ TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
         QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {},
                           bar->mapTo(&Window, bar->actionGeometry(menu->menuAction()).center()));
         EXPECT_FALSE(menu->isVisible());
+        // By a way that is neither mouse nor key.
+        for (const char* item : {"mnu_God", "mnu_NewGame", "mnu_GameSize"}) {
+            Control<QAction>(item)->trigger();
+        }
         // Pressed now, released after the move.
         Press(Centre(70));
     });
@@ -108,6 +121,7 @@ TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
     EXPECT_EQ(Pos.MoveCount, 5);
     EXPECT_EQ(Pos.Board[68], Red);
     EXPECT_EQ(Level, levelBefore);
+    EXPECT_TRUE(IsItemChecked("mnu_Easy"));
     EXPECT_FALSE(IsThinking);
     ExpectViewShowsPosition();
 }

@@ -1,6 +1,7 @@
 #include "core/StartPosition.h"
 #include "engine/Candidates.h"
 #include "engine/Random.h"
+#include "engine/Strengths.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "tests/WindowTest.h"
@@ -9,42 +10,59 @@ namespace brastel {
 
 namespace {
 
+/// By layout, the strongest level that plays a game in a few seconds. The assertions look at every
+/// position of a search.
+#ifdef NDEBUG
+constexpr std::array<int, LayoutCount> TopLevels{9, 9, 8, 7, 7, 7, 7};
+#else
+constexpr std::array<int, LayoutCount> TopLevels{5, 1, 2, 4, 1, 3, 2};
+#endif
+
 struct GameCase {
-    const char* Name;
     int Layout;
-    /// Menu item of the strength.
-    const char* Item;
+    int Level;
 };
 
-std::ostream& operator<<(std::ostream& out, const GameCase& game) { return out << game.Name; }
+std::vector<GameCase> AllGames() {
+    std::vector<GameCase> games;
+    for (int layout = 0; layout < LayoutCount; ++layout) {
+        const int top = TopLevels[static_cast<std::size_t>(layout)];
+        for (int level = TwoPlayerLevel; level <= top; ++level) games.push_back({layout, level});
+    }
+    return games;
+}
+
+std::string NameOf(const testing::TestParamInfo<GameCase>& game) {
+    return "Layout" + std::to_string(game.param.Layout) + "Level" +
+           std::to_string(game.param.Level);
+}
 
 /// Red is played with the mouse, by a player who looks no further than the next move.
 class WholeGamesTest : public WindowTest, public testing::WithParamInterface<GameCase> {
 protected:
-    /// Sets up eleven Red and nine Blue pieces by hand.
+    /// Eleven Red and nine Blue pieces, placed by hand.
     void SetUpByHand() {
-        for (int square = 66; square <= 76; ++square) {
+        for (int square = 66; square <= 78; ++square) {
             if (InField(square)) ClickAt(Centre(square));
         }
-        ClickAt(Centre(28));
         DoubleClick(69);
         for (int square = 34; square <= 45; ++square) {
-            if (InField(square)) ClickAt(Centre(square));
+            if (InField(square) && square != 38) ClickAt(Centre(square));
         }
         DoubleClick(43);
     }
 
-    void Begin(const GameCase& game) {
-        Open(game.Layout);
-        ChooseFromMenu("mnu_Level", game.Item);
+    void Begin() {
+        const auto [layout, level] = GetParam();
+        Open(layout);
+        const auto item = level == TwoPlayerLevel
+                              ? "mnu_TwoPlayer"
+                              : Strengths[static_cast<std::size_t>(level - 1)].Item;
+        ChooseFromMenu("mnu_Level", item.data());
         SeedRandom(7);
-        if (game.Layout == FreeSetupLayout) {
-            SetUpByHand();
-        } else {
-            DoubleClick(Pos.RedSquare[1]);
-            if (Level == TwoPlayerLevel) DoubleClick(Pos.BlueSquare[2]);
-        }
-        ASSERT_EQ(Pos.MoveCount, 3);
+        if (layout == FreeSetupLayout) return SetUpByHand();
+        DoubleClick(Pos.RedSquare[1]);
+        if (level == TwoPlayerLevel) DoubleClick(Pos.BlueSquare[2]);
     }
 
     /// Drags the best move that a hand can make (a goal entry is none), or passes with the hint.
@@ -53,16 +71,15 @@ protected:
         SortCandidates(1);
         for (int n = 1; n <= CandidateCount[1]; ++n) {
             const int destination = DestinationOf(MoveList[1][n]);
-            if (!InField(destination)) continue;
-            Drag(OriginOf(MoveList[1][n]), destination);
-            return;
+            if (InField(destination)) return Drag(OriginOf(MoveList[1][n]), destination);
         }
         ClickButton("btn_Hint");
     }
 };
 
-TEST_P(WholeGamesTest, IsPlayedToItsEnd) {
-    Begin(GetParam());
+TEST_P(WholeGamesTest, IsPlayedToItsEndAndBack) {
+    Begin();
+    ASSERT_EQ(Pos.MoveCount, 3);
     while (GameOver == False && !IsRecordFull()) {
         const int before = Pos.MoveCount;
         PlayByHand();
@@ -78,31 +95,7 @@ TEST_P(WholeGamesTest, IsPlayedToItsEnd) {
     ExpectViewShowsPosition();
 }
 
-INSTANTIATE_TEST_SUITE_P(
-    Easy, WholeGamesTest,
-    testing::Values(GameCase{"Two", 0, "mnu_Easy"}, GameCase{"Four", 1, "mnu_Easy"},
-                    GameCase{"Six", 2, "mnu_Easy"}, GameCase{"Eight", 3, "mnu_Easy"},
-                    GameCase{"Ten", 4, "mnu_Easy"}, GameCase{"Twelve", 5, "mnu_Easy"},
-                    GameCase{"FreeSetup", 6, "mnu_Easy"}),
-    testing::PrintToStringParamName());
-
-INSTANTIATE_TEST_SUITE_P(Strengths, WholeGamesTest,
-                         testing::Values(GameCase{"TwoPlayer", 3, "mnu_TwoPlayer"},
-                                         GameCase{"Medium", 3, "mnu_Medium"},
-                                         GameCase{"Difficult", 5, "mnu_Difficult"},
-                                         GameCase{"Advanced", 6, "mnu_Advanced"}),
-                         testing::PrintToStringParamName());
-
-#ifdef NDEBUG
-/// Too slow with the assertions on, which look at every position of the search.
-INSTANTIATE_TEST_SUITE_P(DeepStrengths, WholeGamesTest,
-                         testing::Values(GameCase{"Expert", 4, "mnu_Expert"},
-                                         GameCase{"Master", 3, "mnu_Master"},
-                                         GameCase{"GrandMaster", 2, "mnu_GrandMaster"},
-                                         GameCase{"King", 1, "mnu_King"},
-                                         GameCase{"Emperor", 0, "mnu_Emperor"}),
-                         testing::PrintToStringParamName());
-#endif
+INSTANTIATE_TEST_SUITE_P(Games, WholeGamesTest, testing::ValuesIn(AllGames()), NameOf);
 
 }  // namespace
 

@@ -1,0 +1,211 @@
+#include "core/Consistency.h"
+#include "tests/FilesTest.h"
+#include "tests/GameTest.h"
+
+#include <sys/stat.h>
+
+namespace brastel {
+namespace {
+
+/// The standard game after both ring placements and one move, byte by byte.
+const std::string Example =
+    " 8  8 \r\n 4 \r\n 66 \r\n 67 \r\n 68 \r\n 69 \r\n 70 \r\n 71 \r\n 28 \r\n 29 \r\n"
+    " 109 \r\n 42 \r\n 43 \r\n 44 \r\n 45 \r\n 46 \r\n 47 \r\n 84 \r\n 85 \r\n"
+    " 3 \r\n 68  0 \r\n 44  0 \r\n 66  58 \r\n";
+
+class GameFileTest : public GameTest {
+protected:
+    static void Play(const std::string& commands) {
+        std::istringstream list(commands);
+        for (std::string command; list >> command;) Do(command);
+    }
+    /// As from the menu, for two people.
+    std::string Load(const std::string& name) {
+        LoadGameFile(Desk / name);
+        BeginLoadedGame();
+        SetLevel(TwoPlayerLevel);
+        return Desk.Told();
+    }
+    std::string LoadText(const std::string& text) {
+        WriteBytes(std::to_string(++FilesWritten), text);
+        return Load(std::to_string(FilesWritten));
+    }
+    /// Forward through the loaded game, as far as it fits, and back. The number of entries played.
+    static int WalkThrough() {
+        for (; ForwardVisible; StepForward()) EXPECT_EQ(FirstInconsistency(), "");
+        const int entries = Pos.MoveCount - 1;
+        for (; Pos.MoveCount > 1; StepBack()) EXPECT_EQ(FirstInconsistency(), "");
+        return entries;
+    }
+    int Roll(int sides) { return 1 + Below(Luck, sides); }
+    /// A random game of two people: the positions before and after each entry.
+    std::vector<Position> PlayGame(int layout) {
+        Start(layout);
+        std::vector<Position> played{Pos};
+        for (const Int16 side : {Red, Blue}) {
+            const int added = layout == FreeSetupLayout ? Roll(MaxPieces) : 0;
+            while (PieceCount(side) < added) Click(SquareAt(Roll(12), Roll(6)));
+            DoubleClickPiece({side, ToInt16(Roll(std::min(PieceCount(side), 8 + added)))});
+            if (side == Blue) Pos.RedPlaced = Pos.BluePlaced = 0;  // as in a loaded game
+            played.push_back(Pos);
+        }
+        GenerateMoves(1);
+        for (int left = Roll(30); left > 0; --left) {
+            const auto [from, to] = DrawAction(Luck);
+            if (from > 0) Drop(from, to);
+            played.push_back(Pos);
+        }
+        return played;
+    }
+
+    FileDesk Desk;
+    int FilesWritten = 0;
+    Dice Luck;
+};
+
+/// Both counts are 0 until a side has its ring, whatever stands on the board.
+TEST_F(GameFileTest, WritesTheGameToTheByteAndAsksBefore) {
+    const std::map<std::string, std::string> cases{
+        {"R3 B3 66-58", Example},
+        {"layout0", " 2  2 \r\n 4 \r\n 68 \r\n 69 \r\n 109 \r\n 44 \r\n 45 \r\n 0 \r\n"},
+        {"layout6 +60 +61", " 0  0 \r\n 4 \r\n 109 \r\n 0 \r\n"},
+        {"layout6 +60 +61 R2 +20",
+         " 2  0 \r\n 61 \r\n 60 \r\n 61 \r\n 109 \r\n 1 \r\n 61  0 \r\n"}};
+    for (const auto& [commands, bytes] : cases) {
+        Start(3);
+        Play(commands);
+        SaveGameFile(commands);
+        EXPECT_EQ(BytesOf(commands) + Desk.Told(), bytes);
+        WriteBytes("old", "precious");
+        for (const std::string& expected : {std::string("precious"), bytes}) {
+            Desk.Answer = expected == bytes;
+            SaveGameFile("old");
+            EXPECT_EQ(BytesOf("old") + Desk.Told(), expected + "overwrite? ");
+        }
+    }
+}
+
+/// The pieces placed by hand used to count among those of a game loaded over them: after its last
+/// entry was taken back, btn_Forward stayed hidden.
+TEST_F(GameFileTest, GamesAreLoadedOverASetup) {
+    Play("layout6 +66 +67 +68 +69 +70 +71 +74 +75 +76");
+    LoadText(Example);
+    Play("forward forward forward back");
+    EXPECT_TRUE(ForwardVisible);
+}
+
+TEST_F(GameFileTest, RandomGamesComeBack) {
+    for (int game = 0; game < 150 * LayoutCount; ++game) {
+        SCOPED_TRACE(game);
+        const std::string name = std::to_string(game);
+        const std::vector<Position> played = PlayGame(game % LayoutCount);
+        SaveGameFile(name);
+        Start((game + 1) % LayoutCount);
+        ASSERT_EQ(Load(name), "close open ");
+        for (const Position& position : played) {
+            while (Pos.MoveCount < position.MoveCount && ForwardVisible) StepForward();
+            ASSERT_TRUE(Pos == position || position.BlueCount == 0) << Listed();
+        }
+        SaveGameFile("again " + name);
+        ASSERT_EQ(BytesOf("again " + name), BytesOf(name));
+    }
+}
+
+/// Each path with the error of loading it and that of saving there, 0 where that is not tried.
+TEST_F(GameFileTest, FailuresLeaveTheGameAlone) {
+    WriteBytes("file", "");
+    fs::create_symlink("loop", "loop");
+    ASSERT_EQ(mkfifo("pipe", 0666), 0);
+    std::istringstream places(
+        "missing 1 0 missing/game 2 2 missing/folder/game 2 2 file/game 2 2 loop 2 2 "
+        "file 3 0 . 8 8 pipe 8 8 /dev/zero 8 0 /dev/full 8 7 /proc/self/mem 9 0 " +
+        std::string(256, 'n') + " 2 2");
+    LoadText(Example);
+    Desk.Answer = true;
+    for (auto [path, loading, saving] = std::tuple(std::string(), 0, 0);
+         places >> path >> loading >> saving;) {
+        SCOPED_TRACE(path);
+        Play("forward forward forward");
+        const Position before = Pos;
+        if (saving > 0) SaveGameFile(path);
+        EXPECT_TRUE(saving == 0 || Desk.Told().ends_with(std::to_string(saving) + " "));
+        EXPECT_TRUE(Pos == before);
+        EXPECT_EQ(Load(path) + LoadedFileName,
+                  "close " + std::to_string(loading) + " open " + (Desk / "1"));
+        EXPECT_EQ(WalkThrough(), 3);
+    }
+    BranchMark = 2;
+    fs::remove("1");
+    EXPECT_EQ(Load("1"), "close open ") << "the same file is not read again";
+    EXPECT_EQ(BranchMark, 0);
+    EXPECT_EQ(WalkThrough(), 3);
+}
+
+TEST_F(GameFileTest, CutAnywhereTheFileEndsEarly) {
+    for (std::size_t size = 0; size <= Example.size(); ++size) {
+        const char* calls = size > Example.rfind("58") ? "close open " : "close 3 open ";
+        EXPECT_EQ(LoadText(Example.substr(0, size)), calls) << size;
+        WalkThrough();
+    }
+}
+
+/// Also a count that no table can hold. Whatever the user does then is safe.
+TEST_F(GameFileTest, ValuesReadBeforeAnErrorStay) {
+    using Counts = std::pair<Int16, Int16>;
+    for (const auto& [red, blue] : {Counts{13, 8}, {32767, 0}, {0, 13}, {12, 32767}}) {
+        const std::string text = std::to_string(red) + "," + std::to_string(blue);
+        SCOPED_TRACE(text);
+        EXPECT_EQ(LoadText(Example), "close open ");
+        EXPECT_EQ(WalkThrough(), 3);
+        EXPECT_EQ(LoadText(text + (red == 0 ? " 4" : "") + " -7 1 2 3 9 10 11 12 17 18 19 20 21 x"),
+                  red == 12 ? "close 4 open " : "close 6 open ");
+        const StartTable& table = red == 0 ? BlueStart : RedStart;
+        EXPECT_EQ(Counts(table[0], table[12]), Counts(-7, 21));
+        EXPECT_EQ(std::tuple(Pos.RedCount, Pos.BlueCount, LoadedCount), std::tuple(red, blue, 3));
+        WalkThrough();
+        Play("+50 R12 R1 hint 66-58 back new");
+        EXPECT_EQ(FirstInconsistency(), "");
+        SaveGameFile(text);
+        EXPECT_EQ(std::stoi(BytesOf(text)), std::min<int>(red, MaxPieces));
+    }
+}
+
+TEST_F(GameFileTest, HugeFilesTakeNoMemory) {
+    WriteBytes("nuls", "");
+    WriteBytes("game", Example);
+    for (const char* name : {"nuls", "game"}) fs::resize_file(name, 1U << 30U);
+    for (int i = 0; i < 1024; ++i) std::ofstream("zeros", std::ios::app) << std::string(65536, '0');
+    const auto peakKilobytes = [] {
+        const std::string status = BytesOf("/proc/self/status");
+        return std::stoi(status.substr(status.find("VmHWM:") + 6));
+    };
+    const int before = peakKilobytes();
+    EXPECT_EQ(Load("nuls") + Load("zeros") + Load("game"), "close 4 open close 4 open close open ");
+    EXPECT_LT(peakKilobytes(), before + 4096);
+}
+
+/// The number before a file's name is that of its error, or of the entries that can be played.
+TEST_F(GameFileTest, FilesByOtherHands) {
+    std::map<std::string, int> seen;
+    for (const auto& entry : fs::recursive_directory_iterator(BRASTEL_TEST_DATA)) {
+        const fs::path& path = entry.path();
+        if (path.extension() != ".txt") continue;
+        SCOPED_TRACE(path);
+        const std::string folder = path.parent_path().filename();
+        const std::string number = std::to_string(std::stoi(path.filename()));
+        const bool isGood = folder == "good";
+        ++seen[folder];
+        LoadedFileName.clear();
+        EXPECT_EQ(Load(path) + LoadedFileName,
+                  isGood ? "close open " + path.string() : "close " + number + " open ");
+        EXPECT_TRUE(std::to_string(WalkThrough()) == number || !isGood);
+        if (path.string().find("example") == std::string::npos) continue;
+        Play("forward forward forward");
+        SaveGameFile(path.filename());
+        EXPECT_EQ(BytesOf(path.filename()), Example);
+    }
+    EXPECT_TRUE(seen["damaged"] >= 40 && seen["good"] >= 20);
+}
+
+}  // namespace
+}  // namespace brastel

@@ -1,0 +1,55 @@
+#pragma once
+
+#include "core/QuietMove.h"
+#include "core/StartPosition.h"
+#include "engine/Candidates.h"
+#include "tests/Positions.h"
+
+#include <random>
+#include <utility>
+
+/// Random games, the same on every platform for the same seed.
+namespace brastel {
+
+using Dice = std::mt19937;
+
+/// 0 to n - 1.
+inline int Below(Dice& dice, int n) { return static_cast<int>(dice() % static_cast<unsigned>(n)); }
+
+/// Origin and destination.
+using Action = std::pair<int, int>;
+
+/// An action that people may take, or (0, 0): the best of a few candidates in row 1 (aimless games
+/// see few hits), or sometimes a ring carrier's long step, which no candidate is.
+inline Action DrawAction(Dice& dice) {
+    for (int attempt = 0; attempt < 20 && CandidateCount[1] > 0; ++attempt) {
+        int best = 1 + Below(dice, CandidateCount[1]);
+        for (int more = Below(dice, 4); more > 0; --more) {
+            const int other = 1 + Below(dice, CandidateCount[1]);
+            if (MoveScores[1][other] > MoveScores[1][best]) best = other;
+        }
+        Action action{OriginOf(MoveList[1][best]), DestinationOf(MoveList[1][best])};
+        if (Below(dice, 8) == 0) {
+            action.first = Pos.RingSquare[dice() % RingCount];
+            action.second = action.first + Below(dice, 5) - 2 + (Below(dice, 5) - 2) * Down;
+        }
+        if (IsAccepted(action.first, action.second)) return action;
+    }
+    return {};
+}
+
+/// Plays random entries from a start layout, the ring placements first, and leaves row 1 up to
+/// date.
+inline void Wander(int layout, int entries, Dice& dice) {
+    SelectStartLayout(layout);
+    SetUpStartPosition();
+    for (; Pos.MoveCount <= entries; ++Pos.MoveCount) {
+        const int receiver = 1 + Below(dice, std::min(LayoutPieces(layout), 8));
+        const Action ring{SquaresOf(Pos.SideToMove)[receiver], 0};
+        const auto [from, to] = BothRingsPlaced() ? DrawAction(dice) : ring;
+        ApplyMoveQuiet(from, to);
+        GenerateMoves(1);
+    }
+}
+
+}  // namespace brastel
