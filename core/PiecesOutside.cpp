@@ -114,6 +114,11 @@ void ReturnPass(CellSet cells) {
 
 }  // namespace
 
+int ReturnSquareOf(int cell) {
+    const auto found = std::ranges::find(ReturnCells, cell, &ReturnCell::Cell);
+    return found != ReturnCells.end() ? found->Return : NoSquare;
+}
+
 void ReturnOutsidePieces() { ReturnPass(AllCells); }
 
 void ReturnOutsideNear(int square, int otherSquare) {

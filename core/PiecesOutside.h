@@ -22,6 +22,9 @@ constexpr int ReturnCellCount = 36;
 /// field; the one in row 0 or 13 comes first and takes the square.
 extern const std::array<ReturnCell, ReturnCellCount> ReturnCells;
 
+/// Where a piece on this return cell comes back; NoSquare for any other square.
+int ReturnSquareOf(int cell);
+
 /// Brings back every piece that may return, all judged on the field as it stood before.
 void ReturnOutsidePieces();
 

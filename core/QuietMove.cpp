@@ -46,7 +46,8 @@ void ApplyMoveQuiet(int origin, int destination) {
         BothRingsPlaced() && Pos.Board[origin] != Empty && Pos.Board[destination] != Pos.SideToMove;
     const bool isHit = changesCells && Pos.Board[destination] != Empty;
     ApplyAction(origin, destination);
-    if (changesCells) ReturnOutsideNear(origin, isHit ? destination : NoSquare);
+    // A carrier that enters the goal may step back in at once, which its origin does not tell.
+    if (changesCells) ReturnOutsideNear(origin, isHit ? destination : ReturnSquareOf(destination));
     Pos.SideToMove = ToInt16(-Pos.SideToMove);
     assert(PositionIsConsistent());
 }

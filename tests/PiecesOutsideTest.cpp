@@ -5,13 +5,14 @@
 #include <gtest/gtest.h>
 
 #include <cstdlib>
+#include <tuple>
 #include <utility>
 #include <vector>
 
 namespace brastel {
 namespace {
 
-int ReturnSquareOf(int cell) {
+int SquareInside(int cell) {
     return SquareAt(std::clamp(Row(cell), 1, 12), std::clamp(Column(cell), 1, 6));
 }
 
@@ -19,14 +20,14 @@ int ReturnSquareOf(int cell) {
 bool HasReturned(int cell) {
     const bool isBack = Pos.Board[cell] == Empty;
     EXPECT_EQ(Pos.OutsideBalance, isBack ? Pos.SideToMove : 0);
-    EXPECT_EQ(SquareOf({Pos.SideToMove, 1}), isBack ? ReturnSquareOf(cell) : cell);
+    EXPECT_EQ(SquareOf({Pos.SideToMove, 1}), isBack ? SquareInside(cell) : cell);
     return isBack;
 }
 
 /// A waiting piece, and one more piece on each square in turn.
 void TryCell(int cell, char letter, char opponent) {
     const std::string waiting = letter + std::to_string(cell) + ' ';
-    const int inside = ReturnSquareOf(cell);
+    const int inside = SquareInside(cell);
     for (int s = FirstSquare; s <= LastSquare; ++s) {
         SCOPED_TRACE(waiting + std::to_string(s));
         const int distance = std::abs(Row(s) - Row(inside)) + std::abs(Column(s) - Column(inside));
@@ -81,6 +82,26 @@ TEST(PiecesOutsideTest, BothSquaresOfAHitAreServedInOnePass) {
     Place("r92 r107 b91 b108 b89");
     ApplyMoveQuiet(92, 91);
     EXPECT_EQ(Listed(), "b89 b90 r91 r99 b100");
+}
+
+/// A carrier that entered the goal from the far end of its front stayed outside when the record was
+/// replayed: its origin is no neighbour of the square on which it comes back.
+TEST(PiecesOutsideTest, AGoalEntryComesBackFromEverySquareOfTheFront) {
+    const std::vector<std::tuple<const char*, int, int>> entries{
+        {"R11 b44", 11, 4},     {"R12 b44", 12, 4},    {"R13 b44", 13, 4},
+        {"R14 b44", 14, 4},     {"B99 r68", 99, 109},  {"B100 r68", 100, 109},
+        {"B101 r68", 101, 109}, {"B102 r68", 102, 109}};
+    for (const auto& [pieces, from, goal] : entries) {
+        Place(pieces);
+        ApplyMoveQuiet(from, goal);
+        const Position quiet = Pos;
+        Place(pieces);
+        ApplyAction(from, goal);
+        ReturnOutsidePieces();
+        Pos.SideToMove = ToInt16(-Pos.SideToMove);
+        EXPECT_EQ(Pos, quiet) << pieces;
+        EXPECT_EQ(Pos.Board[goal], Empty);
+    }
 }
 
 }  // namespace
