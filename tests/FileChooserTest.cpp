@@ -109,9 +109,10 @@ TEST(FileChooserTest, FolderRowsLeadDownFromTheDrive) {
 
 TEST(FileChooserTest, WhatIsNotThereIsIgnored) {
     Dialog dialog(Open);
-    for (const int row : {-1, 1000, INT_MIN, INT_MAX}) {
+    for (const int row : {-1, INT_MIN, INT_MAX}) {
         EXPECT_FALSE(ClickFile(row) || ChooseFile(row) || ChooseFolder(row) || ChooseDrive(row));
     }
+    EXPECT_FALSE(ChooseFile(static_cast<int>(Shown.size())));
     const int drive = Chooser.Drive;
     Chooser.Drives = {"/nowhere", dialog / "gone"};
     EXPECT_EQ(dialog.Seen(ChooseDrive(0)), "") << "a stick that has been pulled out";
@@ -145,30 +146,29 @@ TEST(DrivesTest, VolumesThatAUserChoosesFrom) {
 31 28 0:27 / /opt/cache rw,relatime shared:70 master:3 - tmpfs tmpfs rw
 33 22 0:29 / /sys/fs/cgroup rw,nosuid shared:9 - cgroup2 cgroup2 rw
 39 28 7:0 / /snap/core20/1405 ro,nodev shared:33 - squashfs /dev/loop0 ro
+40 28 7:1 / /media/image ro,nodev - squashfs /dev/loop1 ro
 41 28 259:1 / /boot/efi rw,relatime shared:45 - vfat /dev/nvme0n1p1 rw
 43 28 8:1 / /home rw,relatime shared:47 - ext4 /dev/sda1 rw
-44 43 0:40 / /home/ann/server rw,nosuid shared:60 - fuse.sshfs ann@host:/data rw
-46 28 8:17 / /mnt/usb\040stick rw,nosuid shared:50 master:4 - fuseblk /dev/sdb1 rw
-47 28 0:44 / /srv/games rw,relatime shared:52 - nfs4 server:/games rw
+44 43 0:40 / /home/x rw,nosuid shared:60 - fuse.sshfs ann@host:/data rw
+46 28 8:17 / /mnt/a\040b rw,nosuid shared:50 master:4 - fuseblk /dev/sdb1 rw
+47 28 0:44 / /srv rw,relatime shared:52 - nfs4 server:/games rw
 48 28 0:45 / /net rw,relatime shared:54 - autofs /etc/auto.net rw
-49 28 8:33 / /run/media/ann/棋譜 rw,nosuid - exfat /dev/sdc1 rw
+49 28 8:33 / /run/media/棋 rw,nosuid - exfat /dev/sdc1 rw
 50 28 0:50 / /run/user/1000/gvfs rw,nosuid - fuse.gvfsd-fuse gvfsd-fuse rw
 52 28 259:2 /docker/1f/hosts /etc/hosts rw,relatime - ext4 /dev/nvme0n1p2 rw
-55 28 8:49 / /usrdata\011\012\134 rw - ext4 /dev/sdd1
+55 28 8:49 / /usr2\011\012\134 rw - ext4 /dev/sdd1
 58 43 8:1 / /home rw,relatime shared:47 - ext4 /dev/sda1 rw
 
 60 28 8:51 / /mnt/without-dash rw
 61 28 8:51 / /mnt/without-device rw - ext4
-62 28 8:51 / /mnt/b\9xx\0x1\-12\04\ rw - ext4 /dev/sde1 rw)";
+62 28 8:51 / /b\9xx\0x1\-12\04\ rw - ext4 /dev/sde1 rw)";
     std::string drives;
     for (const std::string& drive : DrivesIn(table)) drives += drive + "|";
     EXPECT_EQ(drives,
-              "/|/home|/home/ann/server|/mnt/b\\9xx\\0x1\\-12\\04\\|/mnt/usb stick|"
-              "/run/media/ann/棋譜|/srv/games|/usrdata\t\n\\|");
+              "/|/b\\9xx\\0x1\\-12\\04\\|/home|/home/x|/mnt/a b|/run/media/棋|/srv|/usr2\t\n\\|");
     EXPECT_EQ(DrivesIn(""), Names{"/"});
-    const Names nested{"/", "/home", "/home/ann/server"};
-    EXPECT_EQ(DriveOf(nested, "/home/ann/server/x"), "/home/ann/server");
-    EXPECT_EQ(DriveOf(nested, "/homework") + DriveOf(nested, "/home/ann/servers"), "//home");
+    EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home/x/x"), "/home/x");
+    EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home/xy"), "/home");
 }
 
 }  // namespace
