@@ -11,9 +11,10 @@ namespace brastel {
 
 namespace {
 
+/// A piece waiting outside cannot be hit.
 bool CanPush(int origin, int destination) {
     const int direction = PushDirection(origin, destination);
-    return direction != 0 && IsFreeBeyond(destination, direction, 1);
+    return direction != 0 && InField(destination) && IsFreeBeyond(destination, direction, 1);
 }
 
 }  // namespace

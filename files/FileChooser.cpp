@@ -18,7 +18,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr const char* AllFiles = "*.*";
 constexpr const char* RootFolder = "/";
 const std::string ProgramTitle = "Brastel";
 const std::string MissingFileText = "ファイルが存在しません。";
@@ -107,8 +106,8 @@ bool ChoosePath(const std::string& path) {
 
 /// A pattern, with a folder before it or not.
 bool TakePattern(const std::string& text) {
-    if (!IsPattern(text)) return false;
     const fs::path path(text);
+    if (!IsPattern(path.filename().string())) return false;
     if (path.has_parent_path() && !EnterFolder(path.parent_path())) return false;
     Chooser.Pattern = path.filename().string();
     Chooser.NameBox = Chooser.Pattern;
@@ -129,8 +128,9 @@ std::string ExistingFile(const std::string& text) {
     if (error || !fs::exists(status) || fs::is_directory(status)) return {};
     const fs::path path(text);
     if (!path.has_parent_path()) return JoinPath(Chooser.Folder, text);
-    const fs::path folder = fs::canonical(path.parent_path(), error);
-    return error ? text : JoinPath(folder.string(), path.filename().string());
+    fs::path folder = fs::canonical(path.parent_path(), error);
+    if (error) folder = fs::absolute(path.parent_path(), error);
+    return JoinPath(folder.string(), path.filename().string());
 }
 
 bool TakeUnknownName(const std::string& text) {
@@ -159,16 +159,19 @@ void OpenChooser(ChooserMode mode) {
     Chooser = {};
     Chooser.Mode = mode;
     Chooser.Pattern = AllFiles;
-    Chooser.NameBox = mode == ChooserMode::Open ? AllFiles : ChosenFileName;
+    Chooser.NameBox = mode == ChooserMode::Open ? std::string(AllFiles) : ChosenFileName;
     FollowWorkingFolder();
 }
 
 bool ChooseDrive(int drive) {
-    const std::string* chosen = RowAt(Chooser.Drives, drive);
-    if (chosen == nullptr) return false;
-    const auto last = FolderOnDrive.find(*chosen);
-    const std::string target = last != FolderOnDrive.end() ? last->second : *chosen;
-    if (!EnterFolder(target)) EnterFolder(std::string(*chosen));
+    const std::string* row = RowAt(Chooser.Drives, drive);
+    if (row == nullptr) return false;
+    const std::string chosen = *row;
+    const auto last = FolderOnDrive.find(chosen);
+    // Since then another drive may have been mounted there.
+    const bool isKnown =
+        last != FolderOnDrive.end() && DriveOf(Chooser.Drives, last->second) == chosen;
+    if (!isKnown || !EnterFolder(last->second)) EnterFolder(chosen);
     return false;
 }
 
@@ -190,9 +193,11 @@ bool ChooseFile(int row) {
 }
 
 bool ConfirmName(const std::string& text) {
-    if (text.empty() || TakePattern(text) || TakeFolder(text)) return false;
+    if (text.empty() || TakeFolder(text)) return false;
+    // A file whose own name holds a wildcard can be chosen like any other.
     const std::string file = ExistingFile(text);
-    return file.empty() ? TakeUnknownName(text) : ChoosePath(file);
+    if (!file.empty()) return ChoosePath(file);
+    return !TakePattern(text) && TakeUnknownName(text);
 }
 
 }  // namespace brastel

@@ -14,6 +14,9 @@ FileError FileErrorFromSystem(int systemError) {
         case ENOTDIR:
         case ELOOP:
         case ENAMETOOLONG:
+        case EINVAL:
+        case EILSEQ:
+        case ETXTBSY:
             return FileError::PathNotAccessible;
         case EISDIR:
         case ENXIO:
@@ -24,7 +27,7 @@ FileError FileErrorFromSystem(int systemError) {
         case EFBIG:
             return FileError::DiskFull;
         default:
-            return FileError::Interrupted;
+            return FileError::SystemFailure;
     }
 }
 

@@ -20,8 +20,8 @@ enum class FileError {
     DiskFull = 7,
     /// A folder, a device or a pipe where a file is to be read.
     NotAFile = 8,
-    /// The system could not read or write on.
-    Interrupted = 9,
+    /// Anything else that the system reports.
+    SystemFailure = 9,
 };
 
 /// The cause behind a system error number (errno) of opening, reading or writing a file.

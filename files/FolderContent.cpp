@@ -9,7 +9,6 @@ namespace {
 
 namespace fs = std::filesystem;
 
-constexpr std::string_view AllFiles = "*.*";
 constexpr char Separator = static_cast<char>(fs::path::preferred_separator);
 
 /// Bytes of the UTF-8 character at the start of a text that is not empty; 1 for a stray byte.

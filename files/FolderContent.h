@@ -8,11 +8,14 @@
 /// they need not be UTF-8.
 namespace brastel {
 
+/// The pattern that every name matches.
+constexpr std::string_view AllFiles = "*.*";
+
 /// True if the text holds a wildcard, * or ?.
 bool IsPattern(std::string_view text);
 
 /// True if the name matches one of the patterns, which are separated by semicolons: * stands for
-/// any run of characters, ? for one character of UTF-8. "*.*" matches every name.
+/// any run of characters, ? for one character of UTF-8.
 bool MatchesPattern(std::string_view name, std::string_view patterns);
 
 /// Names of the ordinary files in a folder that match, in byte order; links to files count. Hidden

@@ -32,9 +32,20 @@ FileError OpenFailure(const std::string& path, int systemError) {
     return hasFolder ? FileError::FileNotFound : FileError::PathNotAccessible;
 }
 
+/// Asked before opening, too: opening a pipe or a device can set something off.
+bool IsOtherThanFile(const std::string& path) {
+    struct stat state {};
+    return stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
+}
+
 bool IsOrdinaryFile(int file) {
     struct stat state {};
     return fstat(file, &state) == 0 && S_ISREG(state.st_mode);
+}
+
+bool IsPipe(int file) {
+    struct stat state {};
+    return fstat(file, &state) == 0 && S_ISFIFO(state.st_mode);
 }
 
 FileError WriteAll(int file, std::string_view text) {
@@ -49,8 +60,12 @@ FileError WriteAll(int file, std::string_view text) {
 
 }  // namespace
 
-NumberReader::NumberReader(const std::string& path)
-    : File(open(path.c_str(), O_RDONLY | NeverWait)) {
+NumberReader::NumberReader(const std::string& path) {
+    if (IsOtherThanFile(path)) {
+        Failure = FileError::NotAFile;
+        return;
+    }
+    File = open(path.c_str(), O_RDONLY | NeverWait);
     if (File < 0) {
         Failure = OpenFailure(path, errno);
     } else if (!IsOrdinaryFile(File)) {
@@ -119,7 +134,7 @@ FileError WriteTextFile(const std::string& path, const std::string& text) {
     constexpr int Permissions = 0666;
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | NeverWait, Permissions);
     if (file < 0) return OpenFailure(path, errno);
-    const FileError written = WriteAll(file, text);
+    const FileError written = IsPipe(file) ? FileError::NotAFile : WriteAll(file, text);
     const bool isClosed = close(file) == 0;
     if (written != FileError::None || isClosed) return written;
     return FileErrorFromSystem(errno);

@@ -11,8 +11,8 @@
 namespace brastel {
 
 /// Reads numbers one by one, from ordinary files only: devices and pipes are refused at once and
-/// never waited for. However large the file or a token in it, only a small buffer is held and
-/// nothing is read beyond the value asked for.
+/// never waited for. However large the file or a token in it, only a small buffer is held, and
+/// nothing is read beyond the buffer in which the value asked for ends.
 class NumberReader {
 public:
     /// Opens the file; Error() tells whether that worked.

@@ -199,13 +199,16 @@ TEST_F(FileDialogTest, NamesAreTypedAndListsAreClicked) {
         Type(dialog, "*");
         ClickItem(dialog, *files, files->item(0), QTest::MouseClick);
         EXPECT_EQ(name->text(), "x");
+        name->setText("missing");
         // The folder above is the row before the last.
         ClickItem(dialog, *folders, folders->item(folders->count() - 2), QTest::MouseDClick);
         EXPECT_EQ(files->count(), 2);
-        name->setText("missing");
-        // Enter is OK.
+        EXPECT_EQ(name->text(), "missing") << "what was typed stays";
+        // Enter is OK, except in the folder list.
+        name->setFocus();
         QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
         EXPECT_TRUE(dialog.isVisible());
+        EXPECT_EQ(name->text(), "missing");
         ClickIn(dialog, "cmdOpenSave1");
     };
     ChooseAndAnswer(Options, LoadItem,

@@ -5,9 +5,8 @@
 
 #include <QCloseEvent>
 #include <QFileIconProvider>
+#include <QKeyEvent>
 #include <QPushButton>
-
-#include <array>
 
 namespace brastel {
 
@@ -82,6 +81,7 @@ void FileDialog::BuildControls() {
     txtOpenSave = Add<QLineEdit>(this, "txtOpenSave", NamePlace);
     filOpenSave = Add<QListWidget>(this, "filOpenSave", FilesPlace);
     lblPath = Add<QLabel>(this, "lblOpenSave2", PathPlace);
+    lblPath->setTextFormat(Qt::PlainText);
     dirOpenSave = Add<QListWidget>(this, "dirOpenSave", FoldersPlace);
     drvOpenSave = Add<QComboBox>(this, "drvOpenSave", DrivesPlace);
     AddLabel(this, NameLabel, txtOpenSave);
@@ -95,14 +95,19 @@ void FileDialog::ConnectControls() {
     QPushButton* ok = AddButton(this, "cmdOpenSave0", "OK", OkPlace);
     QPushButton* cancel = AddButton(this, "cmdOpenSave1", CancelText, CancelPlace);
     ok->setDefault(true);
-    cancel->setAutoDefault(false);
     connect(ok, &QPushButton::clicked, this, [this] { Confirm(); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    // The lists stay as they are here: refilled, they would not know the second click of a pair.
-    connect(filOpenSave, &QListWidget::itemClicked, this, [this](QListWidgetItem* item) {
-        ClickFile(filOpenSave->row(item));
-        txtOpenSave->setText(Shown(Chooser.NameBox));
+    // What the box cannot show of a name's bytes is kept until it is edited.
+    connect(txtOpenSave, &QLineEdit::textChanged, this, [](const QString& text) {
+        if (text != Shown(Chooser.NameBox)) Chooser.NameBox = text.toStdString();
     });
+    // With the arrow keys, too.
+    connect(filOpenSave, &QListWidget::currentRowChanged, this, [this](int row) {
+        if (filOpenSave->hasFocus()) ShowClick(row);
+    });
+    // The lists stay as they are here: refilled, they would not know the second click of a pair.
+    connect(filOpenSave, &QListWidget::itemClicked, this,
+            [this](QListWidgetItem* item) { ShowClick(filOpenSave->row(item)); });
     connect(filOpenSave, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem* item) { After(ChooseFile(filOpenSave->row(item))); });
     connect(dirOpenSave, &QListWidget::itemDoubleClicked, this,
@@ -134,11 +139,16 @@ void FileDialog::ShowFolders() {
     dirOpenSave->setCurrentRow(current);
 }
 
+void FileDialog::ShowClick(int row) {
+    ClickFile(row);
+    txtOpenSave->setText(Shown(Chooser.NameBox));
+}
+
 /// The end of a path tells more than its start.
 void FileDialog::ShowPath() {
     const QString path = Shown(Chooser.Folder);
     lblPath->setText(lblPath->fontMetrics().elidedText(path, Qt::ElideLeft, lblPath->width()));
-    lblPath->setToolTip(path);
+    lblPath->setToolTip(path.toHtmlEscaped());
 }
 
 void FileDialog::After(bool isDone) {
@@ -149,11 +159,16 @@ void FileDialog::After(bool isDone) {
     }
 }
 
-/// A name that was only clicked keeps its bytes, even if the box cannot show them.
-void FileDialog::Confirm() {
-    const QString text = txtOpenSave->text();
-    const bool isUntouched = text == Shown(Chooser.NameBox);
-    After(ConfirmName(isUntouched ? Chooser.NameBox : text.toStdString()));
+void FileDialog::Confirm() { After(ConfirmName(std::string(Chooser.NameBox))); }
+
+/// Enter is OK, but in the folder list it enters the folder.
+void FileDialog::keyPressEvent(QKeyEvent* event) {
+    const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
+    if (isEnter && dirOpenSave->hasFocus()) {
+        After(ChooseFolder(dirOpenSave->currentRow()));
+    } else {
+        QDialog::keyPressEvent(event);
+    }
 }
 
 /// Reached by the close box only: Cancel, Esc and a finished choice do not send this.

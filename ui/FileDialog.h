@@ -20,6 +20,7 @@ public:
 
 protected:
     void closeEvent(QCloseEvent* event) override;
+    void keyPressEvent(QKeyEvent* event) override;
 
 private:
     void BuildControls();
@@ -30,6 +31,7 @@ private:
     /// Shows what the chooser made of it, or closes the dialog.
     void After(bool isDone);
     void Confirm();
+    void ShowClick(int row);
 
     QLineEdit* txtOpenSave = nullptr;
     QListWidget* filOpenSave = nullptr;

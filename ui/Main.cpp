@@ -2,6 +2,7 @@
 
 #include <QApplication>
 
+#include <csignal>
 #include <cstdio>
 #include <cstdlib>
 
@@ -19,6 +20,9 @@ void ReportMissingDisplay(QtMsgType type, const QMessageLogContext& /*context*/,
 }  // namespace
 
 int main(int /*argc*/, char* argv[]) {
+    // Writing to a broken pipe or past a size limit is an error to report, not the end.
+    std::signal(SIGPIPE, SIG_IGN);
+    std::signal(SIGXFSZ, SIG_IGN);
     // No argument reaches the toolkit: the program knows no options.
     int count = 1;
     char* name[] = {argv[0], nullptr};
