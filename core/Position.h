@@ -36,7 +36,8 @@ struct Position {
     BoardCells Board;
     PieceSquares RedSquare;
     PieceSquares BlueSquare;
-    /// Pieces of each side. A game file can carry any number here: PieceCount is safe to loop to.
+    /// Pieces of each side. A damaged game file can leave more than MaxPieces here:
+    /// PieceCount is safe to loop to.
     Int16 RedCount = 0;
     Int16 BlueCount = 0;
     /// Pieces placed so far in a free setup, 0 in every other game.

@@ -163,28 +163,25 @@ void OpenChooser(ChooserMode mode) {
     FollowWorkingFolder();
 }
 
-bool ChooseDrive(int drive) {
+void ChooseDrive(int drive) {
     const std::string* row = RowAt(Chooser.Drives, drive);
-    if (row == nullptr) return false;
+    if (row == nullptr) return;
     const std::string chosen = *row;
     const auto last = FolderOnDrive.find(chosen);
     // Since then another drive may have been mounted there.
     const bool isKnown =
         last != FolderOnDrive.end() && DriveOf(Chooser.Drives, last->second) == chosen;
     if (!isKnown || !EnterFolder(last->second)) EnterFolder(chosen);
-    return false;
 }
 
-bool ChooseFolder(int row) {
+void ChooseFolder(int row) {
     const FolderRow* chosen = RowAt(Chooser.Folders, row);
     if (chosen != nullptr) EnterFolder(fs::path(chosen->Path));
-    return false;
 }
 
-bool ClickFile(int row) {
+void ClickFile(int row) {
     const std::string* chosen = RowAt(Chooser.Files, row);
     if (chosen != nullptr) Chooser.NameBox = *chosen;
-    return false;
 }
 
 bool ChooseFile(int row) {

@@ -42,12 +42,13 @@ const char* ChooserTitle(ChooserMode mode);
 /// Starts the dialog anew in the working folder.
 void OpenChooser(ChooserMode mode);
 
-/// Each of these returns true when the dialog is to close. Rows and drives out of range, and
-/// folders that cannot be entered, change nothing.
-bool ChooseDrive(int drive);
-bool ChooseFolder(int row);
+/// Rows and drives out of range, and folders that cannot be entered, change nothing.
+void ChooseDrive(int drive);
+void ChooseFolder(int row);
 /// A click on a file.
-bool ClickFile(int row);
+void ClickFile(int row);
+
+/// These two return true when the dialog is to close.
 /// A double-click on a file: loads or saves it.
 bool ChooseFile(int row);
 /// OK with this text in the name box: a pattern, a folder, an existing file, or something else.

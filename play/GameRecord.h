@@ -18,7 +18,8 @@ using RecordColumn = Table<Int16, 0, MaxEntries>;
 extern RecordColumn PlayedFrom;
 extern RecordColumn PlayedTo;
 
-/// The game loaded last: entries 1 to LoadedCount. A damaged file can leave any count.
+/// The game loaded last: entries 1 to LoadedCount. A damaged file can leave a count above
+/// MaxEntries.
 extern RecordColumn LoadedFrom;
 extern RecordColumn LoadedTo;
 extern Int16 LoadedCount;

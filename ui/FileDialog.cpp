@@ -111,9 +111,11 @@ void FileDialog::ConnectControls() {
     connect(filOpenSave, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem* item) { After(ChooseFile(filOpenSave->row(item))); });
     connect(dirOpenSave, &QListWidget::itemDoubleClicked, this,
-            [this](QListWidgetItem* item) { After(ChooseFolder(dirOpenSave->row(item))); });
-    connect(drvOpenSave, &QComboBox::activated, this,
-            [this](int drive) { After(ChooseDrive(drive)); });
+            [this](QListWidgetItem* item) { EnterRow(dirOpenSave->row(item)); });
+    connect(drvOpenSave, &QComboBox::activated, this, [this](int drive) {
+        ChooseDrive(drive);
+        ShowChooser();
+    });
 }
 
 void FileDialog::ShowChooser() {
@@ -137,6 +139,11 @@ void FileDialog::ShowFolders() {
         if (row.Path == Chooser.Folder) current = dirOpenSave->count() - 1;
     }
     dirOpenSave->setCurrentRow(current);
+}
+
+void FileDialog::EnterRow(int row) {
+    ChooseFolder(row);
+    ShowChooser();
 }
 
 void FileDialog::ShowClick(int row) {
@@ -165,7 +172,7 @@ void FileDialog::Confirm() { After(ConfirmName(std::string(Chooser.NameBox))); }
 void FileDialog::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && dirOpenSave->hasFocus()) {
-        After(ChooseFolder(dirOpenSave->currentRow()));
+        EnterRow(dirOpenSave->currentRow());
     } else {
         QDialog::keyPressEvent(event);
     }

@@ -31,6 +31,7 @@ private:
     /// Shows what the chooser made of it, or closes the dialog.
     void After(bool isDone);
     void Confirm();
+    void EnterRow(int row);
     void ShowClick(int row);
 
     QLineEdit* txtOpenSave = nullptr;
