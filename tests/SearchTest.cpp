@@ -1,52 +1,75 @@
-#include "engine/Random.h"
-#include "engine/Search.h"
-#include "tests/PlainSearch.h"
-#include "tests/RandomPlay.h"
+#include "tests/SearchComparison.h"
 
 #include <gtest/gtest.h>
 
 namespace brastel {
 namespace {
 
-/// Codes in row 1 that the search values like the one it chose.
-std::vector<MoveCode> TiedWith(int chosen) {
-    std::vector<MoveCode> tied;
-    for (int n = 1; n <= CandidateCount[1]; ++n) {
-        if (MoveScores[1][n] == MoveScores[1][chosen]) tied.push_back(MoveList[1][n]);
-    }
-    return tied;
-}
-
-/// The search leaves candidates that lose to the best with a bound of their value, so only the best
-/// ones are compared. Where everything is worth less than NoScore nothing is compared: there the
-/// search has no best to measure by, and bounds may win.
-void CompareWithPlainSearch(int depth) {
-    SCOPED_TRACE(Listed() + " depth " + std::to_string(depth));
+void CompareWithPlainSearch(int level) {
+    SCOPED_TRACE(Described() + " level " + std::to_string(level));
     const Position before = Pos;
-    const PlainResult plain = PlainSearch(depth);
-    const int chosen = ChooseCandidate(ToInt16(depth));
-    EXPECT_TRUE(Pos == before);
-    EXPECT_EQ(BeamWidth, 32);
-    EXPECT_EQ(BeamShrink, 7);
-    EXPECT_EQ(SearchPly, 1);
-    ASSERT_EQ(chosen == 0, plain.Candidates.empty());
-    if (plain.Best < NoScore || chosen == 0) return;
-    EXPECT_EQ(MoveScores[1][chosen], plain.Best);
-    EXPECT_EQ(TiedWith(chosen), plain.Tied);
+    const PlainResult plain = PlainSearch(level);
+    const int chosen = ChooseCandidate(ToInt16(level));
+    EXPECT_EQ(Differences(before, plain, chosen), "");
 }
 
-TEST(SearchTest, AgreesWithPlainSearch) {
-    SeedRandom(1);
-    Dice dice(1);
-    for (int n = 0; n < 264; ++n) {
-        const int depth = n < 60 ? 1 : n < 180 ? 2 : n < 240 ? 3 : 4;
-        Wander(n % FreeSetupLayout, Below(dice, 64), dice);
-        CompareWithPlainSearch(depth);
+/// Positions by level, from 1; the assertions look at every position of a search.
+#ifdef NDEBUG
+constexpr std::array Positions{500, 3000, 1600, 600, 200, 170, 30, 3, 3, 3, 1};
+#else
+constexpr std::array Positions{50, 300, 200, 80, 20, 6};
+#endif
+
+class SearchLevelTest : public testing::TestWithParam<int> {};
+
+TEST_P(SearchLevelTest, AgreesWithPlainSearch) {
+    const int level = GetParam();
+    // With two pieces a side it costs least to reach the deepest plies and their beam.
+    const int layout = level > 8 ? 0 : PositionSource::AnyLayout;
+    PositionSource source(static_cast<unsigned>(level), layout);
+    for (int left = Positions[static_cast<std::size_t>(level - 1)]; left > 0; --left) {
+        source.Draw();
+        CompareWithPlainSearch(level);
+        if (HasFailure()) return;
     }
-    // With few pieces deep searches are cheap, and short of candidates.
-    for (const char* pieces : {"R52 b19 B60", "B61 b44 r20 R92", "r9 R10 b18 B19", "r1 B44"}) {
-        Place(pieces);
-        for (int depth = 1; depth <= 5; ++depth) CompareWithPlainSearch(depth);
+}
+
+INSTANTIATE_TEST_SUITE_P(Levels, SearchLevelTest, testing::Range(1, int{Positions.size()} + 1),
+                         testing::PrintToStringParamName());
+
+/// Most ring placements are worth the same, and odd numbers of pieces have none.
+TEST(SearchTest, RingPlacementsAgreeWithPlainSearch) {
+    Dice dice(1);
+    for (int layout = 0; layout < LayoutCount; ++layout) {
+        for (const int entries : {0, 1}) {
+            Wander(layout % FreeSetupLayout, entries, dice);
+            if (layout == FreeSetupLayout) Pos.RedCount = Pos.BlueCount = 1;
+            for (int level = 1; level <= 6; ++level) CompareWithPlainSearch(level);
+        }
+    }
+}
+
+/// Values, bounds among them, in row 1.
+std::vector<double> SearchedValues(const Position& position, int level) {
+    Pos = position;
+    ChooseCandidate(ToInt16(level));
+    return {&MoveScores[1][1], &MoveScores[1][1] + CandidateCount[1]};
+}
+
+/// Whatever the search remembers, an earlier search must not show.
+TEST(SearchTest, ForgetsEarlierSearches) {
+    PositionSource source(8);
+    source.Draw();
+    for (int n = 0; n < 80; ++n) {
+        const Position position = Pos;
+        const int level = 2 + n % 4;
+        const std::vector<double> values = SearchedValues(position, level);
+        source.Draw();
+        const Position next = Pos;
+        SearchedValues(next, 5);
+        SearchedValues(position, 1 + n % 3);
+        EXPECT_EQ(SearchedValues(position, level), values) << Described() << " level " << level;
+        Pos = next;
     }
 }
 
