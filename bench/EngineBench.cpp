@@ -1,7 +1,6 @@
+#include "bench/BenchPositions.h"
 #include "core/QuietMove.h"
-#include "core/StartPosition.h"
 #include "engine/Candidates.h"
-#include "engine/Random.h"
 #include "engine/Search.h"
 
 #include <benchmark/benchmark.h>
@@ -10,29 +9,19 @@ namespace brastel {
 
 namespace {
 
-/// A middle-game position of the standard layout: both sides have played their best immediate moves
-/// for a while.
-void SetUpMiddleGame() {
-    constexpr int Entries = 16;
-    SelectStartLayout(3);
-    SetUpStartPosition();
-    SeedRandom(1);
-    for (; Pos.MoveCount <= Entries; ++Pos.MoveCount) {
-        const MoveCode code = MoveList[1][ChooseCandidate(1)];
-        ApplyMoveQuiet(OriginOf(code), DestinationOf(code));
-    }
-}
+/// Of the standard layout, with pieces waiting outside.
+constexpr int MiddleGame = 29;
 
 /// Items are candidates listed and scored.
 void Generation(benchmark::State& state) {
-    SetUpMiddleGame();
+    SetUpBenchPosition(MiddleGame);
     while (state.KeepRunning()) GenerateMoves(1);
     state.SetItemsProcessed(state.iterations() * CandidateCount[1]);
 }
 BENCHMARK(Generation);
 
 void QuietMoveAndTakeBack(benchmark::State& state) {
-    SetUpMiddleGame();
+    SetUpBenchPosition(MiddleGame);
     GenerateMoves(1);
     const Position saved = Pos;
     const MoveCode code = MoveList[1][1];
@@ -45,10 +34,10 @@ void QuietMoveAndTakeBack(benchmark::State& state) {
 BENCHMARK(QuietMoveAndTakeBack);
 
 void Search(benchmark::State& state) {
-    SetUpMiddleGame();
+    SetUpBenchPosition(MiddleGame);
     while (state.KeepRunning()) ChooseCandidate(static_cast<Int16>(state.range(0)));
 }
-BENCHMARK(Search)->DenseRange(1, 7)->Unit(benchmark::kMillisecond);
+BENCHMARK(Search)->DenseRange(1, MaxPly)->Unit(benchmark::kMillisecond);
 
 }  // namespace
 
