@@ -91,11 +91,11 @@ Int16 SquareOf(Piece piece);
 /// Index of the first piece of the side on the square, 0 if none.
 inline Int16 FindAt(int side, int square) {
     const PieceSquares& squares = SquaresOf(side);
-    const int count = PieceCount(side);
-    for (int i = 1; i <= count; ++i) {
-        if (squares[i] == square) return ToInt16(i);
-    }
-    return 0;
+    // From the end and without stopping: the search asks at every move, and a loop that is left
+    // early is a wrong guess of the processor each time.
+    int found = 0;
+    for (int i = PieceCount(side); i >= 1; --i) found = squares[i] == square ? i : found;
+    return ToInt16(found);
 }
 inline Int16 FindRedAt(int square) { return FindAt(Red, square); }
 inline Int16 FindBlueAt(int square) { return FindAt(Blue, square); }

@@ -48,7 +48,8 @@ void ApplyMoveQuiet(int origin, int destination) {
     const bool isHit = changesCells && Pos.Board[destination] != Empty;
     ApplyAction(origin, destination);
     // A carrier that enters the goal may step back in at once, which its origin does not tell.
-    if (changesCells) ReturnOutsideNear(origin, isHit ? destination : ReturnSquareOf(destination));
+    const int entered = InField(destination) ? NoSquare : ReturnSquareOf(destination);
+    if (changesCells) ReturnOutsideNear(origin, isHit ? destination : entered);
     Pos.SideToMove = ToInt16(-Pos.SideToMove);
     assert(PositionIsConsistent());
 }
