@@ -1,0 +1,128 @@
+#pragma once
+
+#include "core/Square.h"
+
+#include <bit>
+#include <cstdint>
+#include <cstring>
+
+/// Sets of board squares, so that one operation asks about many squares at once.
+namespace brastel {
+
+/// A set of squares 1 to 112: square s is bit s + SquareBit of 128. The halves are one vector,
+/// which compilers keep in one register; 128-bit integers they shift with slow instructions.
+class SquareSet {
+    using Halves = std::uint64_t __attribute__((vector_size(16)));
+
+public:
+    SquareSet() = default;
+    constexpr SquareSet(std::uint64_t low, std::uint64_t high) : Bits{low, high} {}
+
+    std::uint64_t Low() const { return Bits[0]; }
+    std::uint64_t High() const { return Bits[1]; }
+    /// The half with a bit, 0 to 127. Read from memory, where sets mostly are: taking it from the
+    /// register goes through memory, too, but waits.
+    std::uint64_t HalfWith(unsigned bit) const {
+        std::uint64_t half = 0;
+        const char* halves = reinterpret_cast<const char*>(&Bits);
+        std::memcpy(&half, halves + bit / 64 * sizeof half, sizeof half);
+        return half;
+    }
+    bool IsEmpty() const { return (Low() | High()) == 0; }
+
+    friend SquareSet operator&(SquareSet a, SquareSet b) { return SquareSet(a.Bits & b.Bits); }
+    friend SquareSet operator|(SquareSet a, SquareSet b) { return SquareSet(a.Bits | b.Bits); }
+    friend SquareSet operator^(SquareSet a, SquareSet b) { return SquareSet(a.Bits ^ b.Bits); }
+    friend SquareSet operator~(SquareSet a) { return SquareSet(~a.Bits); }
+    SquareSet& operator|=(SquareSet b) { return *this = *this | b; }
+    SquareSet& operator&=(SquareSet b) { return *this = *this & b; }
+    SquareSet& operator^=(SquareSet b) { return *this = *this ^ b; }
+
+    /// The set moved by 1 to 63 squares, to higher or to lower numbers.
+    friend SquareSet operator<<(SquareSet a, int squares) {
+        const Halves carried{0, a.Bits[0]};
+        return SquareSet((a.Bits << squares) | (carried >> (64 - squares)));
+    }
+    friend SquareSet operator>>(SquareSet a, int squares) {
+        const Halves carried{a.Bits[1], 0};
+        return SquareSet((a.Bits >> squares) | (carried << (64 - squares)));
+    }
+
+private:
+    explicit SquareSet(Halves bits) : Bits(bits) {}
+
+    Halves Bits;
+};
+
+/// One row of bits below square 1, so that a field square's surroundings begin inside.
+constexpr int SquareBit = 8;
+
+/// The squares for which the predicate holds.
+template <typename Predicate>
+constexpr SquareSet SquaresWhere(Predicate predicate) {
+    std::uint64_t low = 0;
+    std::uint64_t high = 0;
+    for (int square = FirstSquare; square <= LastSquare; ++square) {
+        const int bit = square + SquareBit;
+        if (predicate(square)) (bit < 64 ? low : high) |= std::uint64_t{1} << bit % 64;
+    }
+    return {low, high};
+}
+
+/// A set for each square, NoSquare included.
+using SetsBySquare = Table<SquareSet, NoSquare, LastSquare>;
+
+/// For each square those that stand in the relation to it; none for NoSquare.
+template <typename Relation>
+constexpr SetsBySquare SquaresRelated(Relation isRelated) {
+    SetsBySquare sets{};
+    for (int from = FirstSquare; from <= LastSquare; ++from) {
+        sets[from] = SquaresWhere([&](int to) { return isRelated(from, to); });
+    }
+    return sets;
+}
+
+/// The sets of one square, and the empty one of NoSquare.
+constexpr SetsBySquare OneSquare = SquaresRelated([](int from, int to) { return to == from; });
+
+inline bool Holds(const SquareSet& set, int square) {
+    const unsigned bit = static_cast<unsigned>(square + SquareBit);
+    return (set.HalfWith(bit) >> bit % 64 & 1) != 0;
+}
+
+inline int SizeOf(SquareSet set) { return std::popcount(set.Low()) + std::popcount(set.High()); }
+
+/// The lowest and the highest square of a set that is not empty.
+inline int FirstIn(SquareSet set) {
+    const int bit =
+        set.Low() != 0 ? std::countr_zero(set.Low()) : 64 + std::countr_zero(set.High());
+    return bit - SquareBit;
+}
+inline int LastIn(SquareSet set) {
+    const int bit =
+        set.High() != 0 ? 127 - std::countl_zero(set.High()) : 63 - std::countl_zero(set.Low());
+    return bit - SquareBit;
+}
+
+// ---- Windows: the surroundings of one field square in one machine word ----
+
+/// Bit n is the square at offset n - WindowReach from the centre: all squares up to two columns and
+/// two rows away, and more below.
+using Window = std::uint64_t;
+
+constexpr int WindowReach = 2 * Down + 2 * Right;
+
+/// The part of a set around a field square.
+inline Window WindowOf(const SquareSet& set, int centre) {
+    const unsigned first = static_cast<unsigned>(centre + SquareBit - WindowReach);
+    const unsigned shift = first % 64;
+    const Window fromHigh = set.High() << 1 << (63 - shift);
+    return set.HalfWith(first) >> shift | (fromHigh & -Window{first < 64});
+}
+
+constexpr Window AtOffset(int offset) { return Window{1} << (offset + WindowReach); }
+
+/// The offset of the lowest square in a window that is not empty.
+constexpr int FirstOffset(Window window) { return std::countr_zero(window) - WindowReach; }
+
+}  // namespace brastel
