@@ -1,0 +1,129 @@
+#include "engine/Reach.h"
+
+#include "core/PlainMove.h"
+
+namespace brastel {
+
+namespace {
+
+constexpr std::array<int, 8> NearOffsets{Up + Left, Up,          Up + Right, Left,
+                                         Right,     Down + Left, Down,       Down + Right};
+constexpr std::array<int, 4> PushDirections{Up, Left, Right, Down};
+
+/// The places, two rows and columns away at most, whose columns and rows satisfy the predicate.
+template <typename Predicate>
+constexpr Window PlacesWhere(Predicate predicate) {
+    Window places = 0;
+    for (int rows = -2; rows <= 2; ++rows) {
+        for (int columns = -2; columns <= 2; ++columns) {
+            const bool isCentre = rows == 0 && columns == 0;
+            if (!isCentre && predicate(columns, rows)) places |= AtOffset(rows * Down + columns);
+        }
+    }
+    return places;
+}
+
+constexpr int Square(int number) { return number * number; }
+
+// ---- Steps ----
+
+/// Which of the nearest squares are in a window, as a number 0 to 255 with bit n for entry n of
+/// NearOffsets.
+constexpr std::size_t NearPattern(Window window) {
+    constexpr int above = WindowReach + Up + Left;
+    constexpr int left = WindowReach + Left;
+    constexpr int right = WindowReach + Right;
+    constexpr int below = WindowReach + Down + Left;
+    return (window >> above & 7) | (window >> left & 1) << 3 | (window >> right & 1) << 4 |
+           (window >> below & 7) << 5;
+}
+
+constexpr bool AreGuardsIn(Window window, const PathGuards& guards) {
+    for (int i = 0; i < guards.Count; ++i) {
+        if ((window & AtOffset(guards.Offset[static_cast<std::size_t>(i)])) == 0) return false;
+    }
+    return true;
+}
+
+/// By the pattern of free squares among the nearest: the places to which nothing bars the way. All
+/// squares that a step passes over are among the nearest.
+constexpr auto OpenPlaces = [] {
+    std::array<Window, 256> open{};
+    for (std::size_t pattern = 0; pattern < open.size(); ++pattern) {
+        Window free = 0;
+        for (std::size_t n = 0; n < NearOffsets.size(); ++n) {
+            if ((pattern >> n & 1) != 0) free |= AtOffset(NearOffsets[n]);
+        }
+        open[pattern] = PlacesWhere(
+            [free](int columns, int rows) { return AreGuardsIn(free, GuardsOf(columns, rows)); });
+    }
+    return open;
+}();
+
+// ---- Slides ----
+
+constexpr SetsBySquare ColumnAbove = SquaresRelated(
+    [](int from, int to) { return Column(to) == Column(from) && Row(to) < Row(from); });
+constexpr SetsBySquare ColumnBelow = SquaresRelated(
+    [](int from, int to) { return Column(to) == Column(from) && Row(to) > Row(from); });
+
+SquareSet Moved(SquareSet set, int direction) {
+    return direction > 0 ? set << direction : set >> -direction;
+}
+
+}  // namespace
+
+constexpr Window NearPlaces =
+    PlacesWhere([](int columns, int rows) { return Square(columns) <= 1 && Square(rows) <= 1; });
+constexpr Window HitPlaces =
+    PlacesWhere([](int columns, int rows) { return columns == 0 || rows == 0; });
+constexpr Window PassPlaces = PlacesWhere([](int columns, int rows) {
+    return columns != 0 && rows != 0 && Square(columns) + Square(rows) < 8;
+});
+
+constexpr SetsBySquare Reach = SquaresRelated([](int from, int to) {
+    const int columns = Column(to) - Column(from);
+    const int rows = Row(to) - Row(from);
+    return columns == 0 || (Square(columns) <= 4 && Square(rows) <= 4);
+});
+
+Window StepsInto(Window free) { return OpenPlaces[NearPattern(free)] & free; }
+
+int SlideUp(const PositionTerms& terms, int square, int leastSteps) {
+    const SquareSet pieces = (terms.Own | terms.Enemy) & ColumnAbove[square];
+    if (pieces.IsEmpty()) return NoSquare;
+    const int friendSquare = LastIn(pieces);
+    const int target = friendSquare + Down;
+    const bool isFarEnough = target <= square + leastSteps * Up;
+    return isFarEnough && Holds(terms.Own, friendSquare) ? target : NoSquare;
+}
+
+int SlideDown(const PositionTerms& terms, int square, int leastSteps) {
+    const SquareSet pieces = (terms.Own | terms.Enemy) & ColumnBelow[square];
+    if (pieces.IsEmpty()) return NoSquare;
+    const int friendSquare = FirstIn(pieces);
+    const int target = friendSquare + Up;
+    const bool isFarEnough = target >= square + leastSteps * Down;
+    return isFarEnough && Holds(terms.Own, friendSquare) ? target : NoSquare;
+}
+
+void FindPushable(const PositionTerms& terms, PushableTargets& pushable) {
+    const SquareSet targets = terms.Targets | terms.JudgedTargets;
+    const SquareSet empty = ~(terms.Own | terms.Enemy);
+    for (std::size_t n = 0; n < PushDirections.size(); ++n) {
+        pushable[n] = targets & Moved(empty, -PushDirections[n]);
+    }
+}
+
+SquareSet HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, SquareSet hitters) {
+    SquareSet hits{};
+    for (std::size_t n = 0; n < PushDirections.size(); ++n) {
+        const SquareSet near = Moved(hitters, PushDirections[n]);
+        // From two squares away only past an empty square, and none that carries a ring.
+        const SquareSet far = Moved(near & terms.Free, PushDirections[n]) & ~terms.Rings;
+        hits |= (near | far) & pushable[n];
+    }
+    return hits;
+}
+
+}  // namespace brastel

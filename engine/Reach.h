@@ -1,0 +1,38 @@
+#pragma once
+
+#include "engine/PositionTerms.h"
+
+/// Where pieces can go: the places of the candidate generator as sets and windows.
+namespace brastel {
+
+// ---- Around a field square ----
+
+/// The eight nearest squares.
+extern const Window NearPlaces;
+/// Where an enemy must stand to be hit.
+extern const Window HitPlaces;
+/// Where a ring can be passed to.
+extern const Window PassPlaces;
+
+/// Free squares that a piece without a ring reaches in one step or two, from the window of free
+/// squares around it.
+Window StepsInto(Window free);
+
+/// Where a slide up or down the column ends: before the first piece, if that is a friend and the
+/// slide at least so many steps long; otherwise NoSquare.
+int SlideUp(const PositionTerms& terms, int square, int leastSteps);
+int SlideDown(const PositionTerms& terms, int square, int leastSteps);
+
+/// All squares that a piece on a square could ever reach.
+extern const SetsBySquare Reach;
+
+// ---- Hits ----
+
+/// Enemy pieces in the field by the direction in which they can be pushed: up, left, right, down.
+using PushableTargets = std::array<SquareSet, 4>;
+void FindPushable(const PositionTerms& terms, PushableTargets& pushable);
+
+/// What the pieces of a set can hit, none of which has just been hit itself.
+SquareSet HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, SquareSet hitters);
+
+}  // namespace brastel
