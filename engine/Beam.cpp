@@ -1,0 +1,141 @@
+#include "engine/Beam.h"
+
+#include "engine/Candidates.h"
+
+namespace brastel {
+
+namespace {
+
+// ---- Ranks: value first, then place in the unsorted row, the earlier the better ----
+
+constexpr int PlaceCount = 1024;
+
+constexpr int RankOf(int value, int place) { return (value + 1) * PlaceCount - 1 - place; }
+constexpr int PlaceOf(int rank) { return PlaceCount - 1 - (rank & (PlaceCount - 1)); }
+constexpr int WithPlace(int rank, int place) { return rank + PlaceOf(rank) - place; }
+
+struct Ranked {
+    int Rank;
+    Candidate Which;
+};
+
+/// The candidates that are worth at least Threshold, in generation order.
+struct Shortlist {
+    Shortlist(int threshold, int exactPlaces) : Threshold(threshold), ExactPlaces(exactPlaces) {}
+
+    int Threshold;
+    /// So many places are counted exactly, because the sort moves who stands there; of the others
+    /// only the order matters.
+    int ExactPlaces;
+    std::array<Ranked, MaxCandidates> Entries;
+    std::size_t Count = 0;
+    int NextPlace = 0;
+};
+
+// ---- Listing ----
+
+/// More than a piece has candidates.
+constexpr int PlacesOfPiece = 64;
+
+void List(Shortlist& list, Candidate candidate, int place) {
+    if (candidate.Value < list.Threshold) return;
+    list.Entries[list.Count++] = {RankOf(candidate.Value, place), candidate};
+}
+
+Candidate CommonCandidate(const PieceSurvey& piece, int bit) {
+    return {static_cast<std::uint8_t>(piece.Square),
+            static_cast<std::uint8_t>(piece.Square + bit - WindowReach),
+            ToInt16(piece.Common + NumberAt(piece.Values, bit))};
+}
+
+void ListPiece(Shortlist& list, const Survey& survey, const PieceSurvey& piece) {
+    const Window all = piece.Places | piece.Judged;
+    const bool isExact = list.NextPlace < list.ExactPlaces;
+    const int firstPlace = list.NextPlace;
+    list.NextPlace += isExact ? piece.Leaps + std::popcount(all) : PlacesOfPiece;
+    if (piece.Best < list.Threshold) return;
+    for (int n = 0; n < piece.Leaps; ++n) {
+        List(list, survey.Valued[piece.FirstLeap + static_cast<std::size_t>(n)], firstPlace + n);
+    }
+    const Candidate* judged = &survey.Valued[piece.FirstJudged];
+    const Window worthy =
+        AtLeast(piece.Values, list.Threshold - piece.Common, piece.Places) | piece.Judged;
+    for (Window rest = worthy; rest != 0; rest &= rest - 1) {
+        const int bit = std::countr_zero(rest);
+        const int before = isExact ? std::popcount(all & ((rest & -rest) - 1)) : bit;
+        const bool isJudged = (piece.Judged >> bit & 1) != 0;
+        List(list, isJudged ? *judged++ : CommonCandidate(piece, bit),
+             firstPlace + piece.Leaps + before);
+    }
+}
+
+/// Leaves out pieces that cannot have a candidate to list, unless their places count.
+void ListPieces(Shortlist& list, Survey& survey) {
+    const SquareSet places = PlacesWorth(survey, list.Threshold);
+    for (std::size_t n = 0; n < survey.PieceTotal; ++n) {
+        const bool isSurveyed = (survey.Surveyed >> n & 1) != 0;
+        if (!isSurveyed && list.NextPlace >= list.ExactPlaces && !MayReach(survey, n, places)) {
+            continue;
+        }
+        SurveyPiece(survey, n);
+        ListPiece(list, survey, survey.Pieces[n]);
+    }
+}
+
+// ---- Selection ----
+
+/// The selection sort of SortCandidates, as far as the beam goes and on the shortlist alone: who
+/// stands where the selected one goes takes the place that the selected one leaves.
+Beam SelectBeam(Shortlist& list, int width) {
+    Beam beam;
+    beam.Count = std::min(list.Count, static_cast<std::size_t>(width));
+    for (std::size_t n = 0; n < beam.Count; ++n) {
+        std::size_t selected = 0;
+        std::size_t displaced = MaxCandidates;
+        int highest = list.Entries[0].Rank;
+        for (std::size_t i = 0; i < list.Count; ++i) {
+            const int rank = list.Entries[i].Rank;
+            selected = rank > highest ? i : selected;
+            highest = std::max(rank, highest);
+            displaced = PlaceOf(rank) == static_cast<int>(n) ? i : displaced;
+        }
+        beam.Candidates[n] = list.Entries[selected].Which;
+        if (displaced != MaxCandidates) {
+            int& rank = list.Entries[displaced].Rank;
+            rank = WithPlace(rank, PlaceOf(highest));
+        }
+        list.Entries[selected] = list.Entries[--list.Count];
+    }
+    return beam;
+}
+
+/// How far below the best value the beam probably reaches: to where candidates have as many
+/// destinations as it is wide.
+int LikelyDepth(const Survey& survey, int width) {
+    constexpr int deepest = 12;
+    int depth = 1;
+    while (depth < deepest && SizeOf(PlacesWorth(survey, survey.Best - depth)) < width) ++depth;
+    return depth;
+}
+
+}  // namespace
+
+Candidate FirstOfBest(const Survey& survey) {
+    std::size_t n = 0;
+    while ((survey.Surveyed >> n & 1) == 0 || survey.Pieces[n].Best != survey.Best) ++n;
+    Shortlist list(survey.Best, 0);
+    ListPiece(list, survey, survey.Pieces[n]);
+    return list.Entries[0].Which;
+}
+
+Beam KeepBeam(Survey& survey, int width) {
+    constexpr int deepest = 24;
+    for (int depth = LikelyDepth(survey, width);; depth *= 2) {
+        Shortlist list(depth <= deepest ? survey.Best - depth : NoValue, width);
+        ListPieces(list, survey);
+        const bool isEnough = list.Count >= static_cast<std::size_t>(width);
+        if (isEnough || depth > deepest) return SelectBeam(list, width);
+    }
+}
+
+}  // namespace brastel
