@@ -80,14 +80,18 @@ Timing TimeChoice(Int16 level, int position, Signature& signature) {
 
 void BenchLevel(Int16 level, std::span<const int> positions, Signature& signature) {
     std::vector<Timing> timings;
+    double seconds = 0;
+    std::uint64_t searched = 0;
     for (const int position : positions) {
         timings.push_back(TimeChoice(level, position, signature));
+        seconds += timings.back().Seconds;
+        searched += SearchedPositions;
     }
     std::ranges::sort(timings, {}, &Timing::Seconds);
     const Timing& worst = timings.back();
-    std::printf("%5d  %10.3f ms  %10.3f ms  %s\n", level,
-                timings[timings.size() / 2].Seconds * 1000, worst.Seconds * 1000,
-                BenchPositionLabel(worst.Position).c_str());
+    std::printf("%5d  %10.3f ms  %10.3f ms  %10.3f ms  %12" PRIu64 "  %s\n", level,
+                timings[timings.size() / 2].Seconds * 1000, worst.Seconds * 1000, seconds * 1000,
+                searched, BenchPositionLabel(worst.Position).c_str());
     std::fflush(stdout);
 }
 
@@ -166,7 +170,7 @@ void CompleteOptions(Options& options) {
 
 Signature BenchLevels(const Options& options) {
     Signature signature = EmptySignature;
-    std::printf("level         median          worst  in position\n");
+    std::printf("level         median          worst            all     positions  worst in\n");
     for (const Int16 level : options.Levels) BenchLevel(level, options.Positions, signature);
     std::printf("signature %016" PRIx64 "\n", signature);
     return signature;

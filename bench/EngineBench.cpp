@@ -1,5 +1,6 @@
 #include "bench/BenchPositions.h"
 #include "core/QuietMove.h"
+#include "engine/Beam.h"
 #include "engine/Candidates.h"
 #include "engine/Search.h"
 
@@ -20,14 +21,33 @@ void Generation(benchmark::State& state) {
 }
 BENCHMARK(Generation);
 
+/// What the search does at the inner plies instead: the candidates that it keeps.
+void SurveyAndBeam(benchmark::State& state) {
+    SetUpBenchPosition(MiddleGame);
+    Survey survey;
+    while (state.KeepRunning()) {
+        BeginSurvey(survey);
+        SurveyBest(survey);
+        benchmark::DoNotOptimize(KeepBeam(survey, static_cast<int>(state.range(0))));
+    }
+}
+BENCHMARK(SurveyAndBeam)->Arg(4)->Arg(10)->Arg(MaxBeam);
+
+/// And at the deepest ply: the highest value alone.
+void BestReply(benchmark::State& state) {
+    SetUpBenchPosition(MiddleGame);
+    while (state.KeepRunning()) benchmark::DoNotOptimize(HighestValue(NoValue, -NoValue));
+}
+BENCHMARK(BestReply);
+
 void QuietMoveAndTakeBack(benchmark::State& state) {
     SetUpBenchPosition(MiddleGame);
     GenerateMoves(1);
-    const Position saved = Pos;
+    const PlySave saved;
     const MoveCode code = MoveList[1][1];
     while (state.KeepRunning()) {
         ApplyMoveQuiet(OriginOf(code), DestinationOf(code));
-        Pos = saved;
+        saved.Restore();
         benchmark::DoNotOptimize(Pos);
     }
 }

@@ -12,7 +12,6 @@ namespace brastel {
 PlyTable<MoveCode> MoveList;
 PlyTable<double> MoveScores;
 Table<Int16, 0, MaxPly> CandidateCount;
-Table<double, 0, MaxPly> BestScore;
 
 namespace {
 
@@ -20,37 +19,24 @@ namespace {
 
 /// Entries beyond these are written before they are read.
 constexpr int ClearedEntries = 120;
-/// Stands for the parent where a row is to be complete.
-constexpr int NoParent = 0;
 
-struct Row {
-    int Ply;
-    int Parent;
-};
-
-void Clear(const Row& row) {
-    CandidateCount[row.Ply] = 0;
+void Clear(int ply) {
+    CandidateCount[ply] = 0;
     for (int n = 1; n <= ClearedEntries; ++n) {
-        MoveList[row.Ply][n] = 0;
-        MoveScores[row.Ply][n] = NoScore;
+        MoveList[ply][n] = 0;
+        MoveScores[ply][n] = NoScore;
     }
-    if (row.Parent != NoParent) BestScore[row.Ply] = NoScore;
 }
 
-int AddEntry(const Row& row, MoveCode code) {
-    const int n = ++CandidateCount[row.Ply];
-    MoveList[row.Ply][n] = code;
+int AddEntry(int ply, MoveCode code) {
+    const int n = ++CandidateCount[ply];
+    MoveList[ply][n] = code;
     return n;
 }
 
-/// Scores and adds a candidate; false when the row need not be continued.
-bool Emit(const Row& row, int origin, int destination) {
-    const int n = AddEntry(row, EncodeMove(origin, destination));
-    const double value = ScoreMove(origin, destination);
-    MoveScores[row.Ply][n] = value;
-    if (row.Parent == NoParent || value <= BestScore[row.Ply]) return true;
-    BestScore[row.Ply] = value;
-    return !IsParentRefuted(row.Ply, row.Parent);
+void AddCandidate(int ply, int origin, int destination) {
+    const int n = AddEntry(ply, EncodeMove(origin, destination));
+    MoveScores[ply][n] = ScoreMove(origin, destination);
 }
 
 // ---- Ring placements ----
@@ -70,17 +56,14 @@ constexpr std::array<PlacementList, 6> PlacementLists{{
     {10, {66, 67, 68, 69, 70, 71, 74, 79}, {42, 43, 44, 45, 46, 47, 34, 39}},
     {12, {66, 67, 68, 69, 70, 71, 74, 79}, {42, 43, 44, 45, 46, 47, 34, 39}},
 }};
-constexpr Int16 BestReplyPieces = 8;
 
-/// By MoveCount, not by the side to move: the search looks at answers without counting on.
-void GeneratePlacements(const Row& row) {
+void GeneratePlacements(int ply) {
     const bool isRed = Pos.MoveCount == 1;
-    const Int16 count = isRed ? Pos.RedCount : Pos.BlueCount;
-    const Int16 pieces = row.Parent == NoParent ? count : BestReplyPieces;
+    const Int16 pieces = isRed ? Pos.RedCount : Pos.BlueCount;
     const auto list = std::ranges::find(PlacementLists, pieces, &PlacementList::Pieces);
     if (list == PlacementLists.end()) return;
     for (const Int16 square : isRed ? list->RedSquares : list->BlueSquares) {
-        if (square != NoSquare) AddEntry(row, square);
+        if (square != NoSquare) AddEntry(ply, square);
     }
 }
 
@@ -192,35 +175,25 @@ int TargetOf(Int16 piece, int square, const Place& place) {
     return accepted ? target : NoSquare;
 }
 
-bool EmitPiece(const Row& row, Int16 piece, int square) {
+void AddPiece(int ply, Int16 piece, int square) {
     const auto places = IsRingSquare(square) ? std::span<const Place>(CarrierPlaces)
                                              : std::span<const Place>(PlainPlaces);
     for (const Place& place : places) {
         const int target = TargetOf(piece, square, place);
-        if (target != NoSquare && !Emit(row, square, target)) return false;
-    }
-    return true;
-}
-
-void GenerateRow(const Row& row) {
-    Clear(row);
-    if (!BothRingsPlaced()) return GeneratePlacements(row);
-    const PieceSquares& squares = SquaresOf(Pos.SideToMove);
-    const int count = PieceCount(Pos.SideToMove);
-    for (int piece = 1; piece <= count; ++piece) {
-        if (!InField(squares[piece])) continue;
-        if (!EmitPiece(row, ToInt16(piece), squares[piece])) return;
+        if (target != NoSquare) AddCandidate(ply, square, target);
     }
 }
 
 }  // namespace
 
-void GenerateMoves(int ply) { GenerateRow({ply, NoParent}); }
-
-void GenerateBestReply(int ply, int parent) { GenerateRow({ply, parent}); }
-
-bool IsParentRefuted(int ply, int parent) {
-    return MoveScores[ply - 1][parent] / Discount - BestScore[ply] < BestScore[ply - 1];
+void GenerateMoves(int ply) {
+    Clear(ply);
+    if (!BothRingsPlaced()) return GeneratePlacements(ply);
+    const PieceSquares& squares = SquaresOf(Pos.SideToMove);
+    const int count = PieceCount(Pos.SideToMove);
+    for (int piece = 1; piece <= count; ++piece) {
+        if (InField(squares[piece])) AddPiece(ply, ToInt16(piece), squares[piece]);
+    }
 }
 
 void SortCandidates(int ply) {

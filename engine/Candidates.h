@@ -2,10 +2,11 @@
 
 #include "engine/MoveCode.h"
 
-/// The candidate tables of the search, the generator that fills them, and the sort.
+/// The candidate tables, the generator that fills them one candidate after another, and the sort.
+/// They are what a search begins with and where it leaves its result; inside, it has faster means.
 namespace brastel {
 
-// ---- Tables: a row for each ply of the search, 1 to 11; row 0 and entry 0 stay 0 ----
+// ---- Tables: a row for each ply, 1 to 11; row 0 and entry 0 stay 0 ----
 
 constexpr int MaxPly = 11;
 /// Twelve pieces with at most 34 candidates each need 408 entries.
@@ -20,12 +21,10 @@ template <typename T>
 using PlyTable = Table<Table<T, 0, MaxCandidates>, 0, MaxPly>;
 
 extern PlyTable<MoveCode> MoveList;
-/// Immediate values, which the search overwrites with combined ones.
+/// Immediate values, which the search overwrites with those of all plies.
 extern PlyTable<double> MoveScores;
 /// The candidates of ply p are entries 1 to CandidateCount[p].
 extern Table<Int16, 0, MaxPly> CandidateCount;
-/// The best value found so far at each ply of the running search.
-extern Table<double, 0, MaxPly> BestScore;
 
 // ---- Operations ----
 
@@ -33,15 +32,6 @@ extern Table<double, 0, MaxPly> BestScore;
 /// order on which every tie-break depends. At MoveCount 1 and 2 these are the ring placements,
 /// unscored (NoScore), and none for piece counts other than 2, 4, 6, 8, 10 and 12.
 void GenerateMoves(int ply);
-
-/// The same for the deepest ply, where only the best immediate value is wanted: leaves it in
-/// BestScore[ply] (NoScore without candidates) and stops as soon as it pulls the candidate `parent`
-/// of ply - 1 below BestScore[ply - 1]. The ring placements are six for every count here.
-void GenerateBestReply(int ply, int parent);
-
-/// True when the best reply found at `ply` already makes the candidate `parent` of the ply above
-/// lose to the best there. Equal values do not count.
-bool IsParentRefuted(int ply, int parent);
 
 /// Orders a row by value, highest first, by selection: equal values can change places, and which of
 /// them stays in the beam follows from these exact swaps.

@@ -1,16 +1,21 @@
 #include "engine/Search.h"
 
 #include "core/Position.h"
-#include "core/QuietMove.h"
+#include "engine/Beam.h"
 #include "engine/Candidates.h"
-#include "engine/Evaluation.h"
 #include "engine/Random.h"
+#include "engine/SearchMemory.h"
+#include "engine/TreeSearch.h"
+
+#include <algorithm>
+#include <span>
 
 namespace brastel {
 
 Int16 SearchPly = 1;
 Int16 BeamWidth = 32;
 Int16 BeamShrink = 7;
+std::uint64_t SearchedPositions = 0;
 
 void ResetBeam() {
     BeamWidth = 32;
@@ -19,77 +24,95 @@ void ResetBeam() {
 
 namespace {
 
-Int16 Depth = 1;
+constexpr int Root = 1;
 
-/// A win one ply nearer counts this much more.
-constexpr int WinBonusPerPly = 1000;
+struct RootCandidate {
+    Candidate Which;
+    /// Its entry in row 1.
+    int Entry;
+    /// Its value, or a bound from above if it loses, in units.
+    int Value;
+};
 
-bool IsWin(double value) { return value > WinValue - 1; }
+using RootRow = std::span<RootCandidate>;
 
-void NarrowBeam() { BeamWidth = ToInt16(BeamWidth - BeamShrink--); }
-void WidenBeam() { BeamWidth = ToInt16(BeamWidth + ++BeamShrink); }
-
-void SortAndCut(int ply) {
-    SortCandidates(ply);
-    CandidateCount[ply] = std::min(CandidateCount[ply], BeamWidth);
+/// Before both rings are placed no candidate has a value and all plies are alike, so only their
+/// number counts.
+void ValuePlacements(int depth) {
+    double value = NoScore;
+    for (int ply = depth - 1; ply >= Root; --ply) {
+        value = NoScore / Discount - value;
+        if (ply > Root) value = std::max(NoScore, value);
+    }
+    for (int n = 1; n <= CandidateCount[Root]; ++n) MoveScores[Root][n] = value;
 }
 
-void RaiseBest(int ply, double value) { BestScore[ply] = std::max(BestScore[ply], value); }
-
-void SearchReplies(int parent);
-
-/// Plays candidate n of the ply, lets the opponent answer, takes it back and values it.
-void TryCandidate(int ply, int n, const Position& saved) {
-    const MoveCode code = MoveList[ply][n];
-    ApplyMoveQuiet(OriginOf(code), DestinationOf(code));
-    SearchPly = ToInt16(ply + 1);
-    SearchReplies(n);
-    SearchPly = ToInt16(ply);
-    Pos = saved;
-    MoveScores[ply][n] = MoveScores[ply][n] / Discount - BestScore[ply + 1];
-    RaiseBest(ply, MoveScores[ply][n]);
+/// Finds the highest value at the root, and leaves a candidate that has it in front.
+int SearchRow(RootRow row) {
+    const PlySave saved;
+    int best = -Unbounded;
+    auto winner = row.begin();
+    for (auto candidate = row.begin(); candidate != row.end(); ++candidate) {
+        candidate->Value = candidate == row.begin()
+                               ? ValueOf(Root, candidate->Which, -Unbounded, Unbounded, saved)
+                               : ValueOfLater(Root, candidate->Which, best, Unbounded, saved);
+        if (candidate->Value > best) winner = candidate;
+        best = std::max(best, candidate->Value);
+    }
+    std::rotate(row.begin(), winner, winner + 1);
+    return best;
 }
 
-void SearchInnerPly(int ply, int parent) {
-    GenerateMoves(ply);
-    SortAndCut(ply);
-    const Position saved = Pos;
-    BestScore[ply] = NoScore;
-    for (int n = 1; n <= CandidateCount[ply]; ++n) {
-        const double value = MoveScores[ply][n];
-        if (IsWin(value)) {
-            if (value > BestScore[ply]) BestScore[ply] = value + (Depth - ply) * WinBonusPerPly;
-            return;
-        }
-        TryCandidate(ply, n, saved);
-        if (IsParentRefuted(ply, parent)) return;
+/// Gives row 1 its final values; `best` is the value of the candidate in front, and the highest.
+/// Values that are equal can still differ in their last digit, which decides what is tied. Losers
+/// are left with a bound below the best.
+void ValueRow(RootRow row, int best) {
+    const PlySave saved;
+    const auto isBest = [&](const RootCandidate& candidate) {
+        if (&candidate == row.data()) return true;
+        return candidate.Value == best &&
+               ValueOf(Root, candidate.Which, best - 1, best, saved) == best;
+    };
+    double highest = 2 * NoScore;
+    for (const RootCandidate& candidate : row) {
+        double& value = MoveScores[Root][candidate.Entry];
+        value = static_cast<double>(best - 1) / UnitsPerPoint;
+        if (!isBest(candidate)) continue;
+        value = RoundedValueOf(Root, candidate.Which, best, saved);
+        highest = std::max(highest, value);
+    }
+    if (highest >= NoScore) return;
+    for (const RootCandidate& candidate : row) {
+        MoveScores[Root][candidate.Entry] = HopelessValueOf(candidate.Which, saved);
     }
 }
 
-/// Leaves in BestScore of the current ply what the side to move can reach against the candidate
-/// `parent` of the ply above. The deepest ply looks at immediate values only.
-void SearchReplies(int parent) {
-    const int ply = SearchPly;
-    if (ply < Depth) {
-        NarrowBeam();
-        SearchInnerPly(ply, parent);
-        WidenBeam();
-    } else {
-        GenerateBestReply(ply, parent);
+void SearchRoot(Int16 depth) {
+    SortCandidates(Root);
+    CandidateCount[Root] = std::min(CandidateCount[Root], BeamWidth);
+    const int count = CandidateCount[Root];
+    // A winning candidate is sorted first, and all keep their immediate values.
+    if (count == 0 || IsWin(MoveScores[Root][1])) return;
+    if (!BothRingsPlaced()) return ValuePlacements(depth);
+    std::array<RootCandidate, MaxBeam> candidates;
+    for (int n = 1; n <= count; ++n) {
+        const MoveCode code = MoveList[Root][n];
+        candidates[static_cast<std::size_t>(n - 1)] = {
+            {static_cast<std::uint8_t>(OriginOf(code)),
+             static_cast<std::uint8_t>(DestinationOf(code)),
+             static_cast<Int16>(MoveScores[Root][n])},
+            n,
+            0};
     }
-}
-
-/// A winning candidate ends the search: sorted first, it and all others keep their immediate
-/// values.
-void SearchRoot() {
-    constexpr int Root = 1;
-    SortAndCut(Root);
-    const Position saved = Pos;
-    BestScore[Root] = NoScore;
-    for (int n = 1; n <= CandidateCount[Root]; ++n) {
-        if (IsWin(MoveScores[Root][n])) return RaiseBest(Root, MoveScores[Root][n]);
-        TryCandidate(Root, n, saved);
+    const RootRow row(candidates.data(), static_cast<std::size_t>(count));
+    ForgetPositions();
+    int best = 0;
+    // The deepest ply being the same side's each time, shallower searches foresee it best.
+    for (int shallower = 2 + depth % 2; shallower <= depth; shallower += 2) {
+        BeginTree(shallower);
+        best = SearchRow(row);
     }
+    ValueRow(row, best);
 }
 
 /// The best of row 1. Each candidate that reaches the best so far tosses a coin, the first one to
@@ -97,8 +120,8 @@ void SearchRoot() {
 Int16 SelectFromRoot() {
     double best = -10000000.0;
     int chosen = 0;
-    for (int n = 1; n <= CandidateCount[1] && MoveList[1][n] != 0; ++n) {
-        const double value = MoveScores[1][n];
+    for (int n = 1; n <= CandidateCount[Root] && MoveList[Root][n] != 0; ++n) {
+        const double value = MoveScores[Root][n];
         if (value < best) continue;
         const bool isBetter = value > best;
         best = value;
@@ -111,10 +134,10 @@ Int16 SelectFromRoot() {
 }  // namespace
 
 Int16 ChooseCandidate(Int16 depth) {
-    Depth = depth;
-    SearchPly = 1;
+    SearchedPositions = 0;
+    SearchPly = Root;
     GenerateMoves(SearchPly);
-    if (Depth > 1) SearchRoot();
+    if (depth > 1) SearchRoot(depth);
     return SelectFromRoot();
 }
 

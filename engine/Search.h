@@ -15,6 +15,9 @@ extern Int16 BeamShrink;
 /// The widths with which every new game begins.
 void ResetBeam();
 
+/// Positions whose candidates the last search valued.
+extern std::uint64_t SearchedPositions;
+
 /// Chooses a move for the side to move by looking `depth` plies ahead, 1 to MaxPly. Returns its
 /// index in row 1 of MoveList, where all candidates stand with their final values, or 0 when there
 /// is no candidate. Exact ties are broken by RandomBelow. The position is the same after the call.

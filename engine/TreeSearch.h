@@ -1,0 +1,60 @@
+#pragma once
+
+#include "core/QuietMove.h"
+#include "engine/Survey.h"
+
+/// The search below the root: what a candidate is worth when both sides answer as well as they can.
+///
+/// It finds the same values as trying all candidates of all beams, and leaves out what cannot
+/// change them:
+/// - Bounds from the whole line above: what a side has already been promised anywhere above cannot
+///   be refused below. A reply that lets the opponent do better ends the position (SearchReplies).
+/// - No room between the bounds for all replies but the first: mostly it is enough to know that
+///   they are no better; only one that is gets searched again (ValueOfLater).
+/// - Memory of positions: bounds for one reached before, and the reply to begin with
+/// (SearchMemory).
+/// - Shallower searches first, which fill that memory (the root, in Search).
+/// - Replies that are likely best come before the beam is even known (Replies).
+/// - Candidates many at a time and only as far as they are asked for (Survey, Beam).
+namespace brastel {
+
+// ---- Values ----
+
+/// A candidate is worth its immediate value / 1.01 less the value of the answer, so every value is
+/// a whole number of 1/101, and that is how the search counts them: different values differ by one
+/// at least, and no rounding can decide what is cut off.
+constexpr int UnitsPerPoint = 101;
+constexpr int Discounted(int immediate) { return immediate * (UnitsPerPoint - 1); }
+
+/// Beyond every value.
+constexpr int Unbounded = 1 << 28;
+
+constexpr bool IsWin(double immediate) { return immediate > WinValue - 1; }
+
+// ---- Operations ----
+
+/// Begins a search to a depth of 2 to MaxPly, with the beam widths that are set. Needs both rings
+/// placed. Positions remembered from shallower searches of the same root serve it.
+void BeginTree(int depth);
+
+/// Candidates that a ply of the tree keeps, 1 to MaxBeam.
+int WidthOf(int ply);
+
+/// The value of a candidate of the position at a ply, in units: exact between the bounds, at or
+/// beyond them a bound itself. `saved` is the position, which is the same after the call.
+int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
+
+/// The same for a candidate that is probably not better than `low`.
+int ValueOfLater(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
+
+/// The value of a candidate as plain arithmetic rounds it, when its exact value is known: the
+/// division and the subtraction of every ply in floating point, and the highest result of all lines
+/// that are equally good.
+double RoundedValueOf(int ply, const Candidate& candidate, int value, const PlySave& saved);
+
+/// The value of a root candidate where all are worth less than NoScore: a side that is about to
+/// lose its last piece is measured against NoScore alone, so that the first reply which shows a
+/// candidate to be worth less decides, and not the best. Needs a depth of 3 at least.
+double HopelessValueOf(const Candidate& candidate, const PlySave& saved);
+
+}  // namespace brastel
