@@ -134,7 +134,7 @@ Int16 SelectFromRoot() {
 }  // namespace
 
 Int16 ChooseCandidate(Int16 depth) {
-    SearchedPositions = 0;
+    SearchedPositions = 1;
     SearchPly = Root;
     GenerateMoves(SearchPly);
     if (depth > 1) SearchRoot(depth);
