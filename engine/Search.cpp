@@ -73,12 +73,12 @@ void ValueRow(RootRow row, int best) {
         return candidate.Value == best &&
                ValueOf(Root, candidate.Which, best - 1, best, saved) == best;
     };
-    double highest = 2 * NoScore;
+    double highest = Lowest;
     for (const RootCandidate& candidate : row) {
         double& value = MoveScores[Root][candidate.Entry];
         value = static_cast<double>(best - 1) / UnitsPerPoint;
         if (!isBest(candidate)) continue;
-        value = RoundedValueOf(Root, candidate.Which, best, saved);
+        value = RoundedValueOf(Root, candidate.Which, best, Lowest, saved);
         highest = std::max(highest, value);
     }
     if (highest >= NoScore) return;

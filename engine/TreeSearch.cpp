@@ -135,8 +135,10 @@ int SearchReplies(int ply, int low, int high) {
     return value;
 }
 
-/// The value of the position at a ply, given in units, as plain arithmetic rounds it.
-double RoundedValue(int ply, int value) {
+/// The value of the position at a ply, given in units, as plain arithmetic rounds it. It is the
+/// answer to a candidate above it that gains `gain`; once that candidate is shown to be worth no
+/// more than `least`, any bound from below will do.
+double RoundedValue(int ply, int value, double gain, double least) {
     if (ply == Depth) return static_cast<double>(value) / UnitsPerPoint;
     Survey survey;
     BeginSurvey(survey);
@@ -146,10 +148,10 @@ double RoundedValue(int ply, int value) {
     const Beam beam = KeepBeam(survey, WidthOf(ply));
     const PlySave saved;
     double best = NoScore;
-    for (std::size_t n = 0; n < beam.Count; ++n) {
+    for (std::size_t n = 0; n < beam.Count && gain - best > least; ++n) {
         const Candidate& candidate = beam.Candidates[n];
         if (ValueOf(ply, candidate, value - 1, value, saved) < value) continue;
-        best = std::max(best, RoundedValueOf(ply, candidate, value, saved));
+        best = std::max(best, RoundedValueOf(ply, candidate, value, best, saved));
     }
     return best;
 }
@@ -182,11 +184,13 @@ int ValueOfLater(int ply, const Candidate& candidate, int low, int high, const P
     return ValueOf(ply, candidate, value - 1, high, saved);
 }
 
-double RoundedValueOf(int ply, const Candidate& candidate, int value, const PlySave& saved) {
+double RoundedValueOf(int ply, const Candidate& candidate, int value, double least,
+                      const PlySave& saved) {
+    const double gain = candidate.Value / Discount;
     ApplyMoveQuiet(candidate.Origin, candidate.Destination);
-    const double answer = RoundedValue(ply + 1, Discounted(candidate.Value) - value);
+    const double answer = RoundedValue(ply + 1, Discounted(candidate.Value) - value, gain, least);
     saved.Restore();
-    return candidate.Value / Discount - answer;
+    return gain - answer;
 }
 
 double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
@@ -204,7 +208,7 @@ double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
         const int value = ValueOf(2, reply, best - 1, Unbounded, answered);
         if (value < best) continue;
         best = value;
-        answer = std::max(answer, RoundedValueOf(2, reply, value, answered));
+        answer = std::max(answer, RoundedValueOf(2, reply, value, answer, answered));
     }
     saved.Restore();
     return gain - answer;

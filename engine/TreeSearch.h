@@ -47,10 +47,15 @@ int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySav
 /// The same for a candidate that is probably not better than `low`.
 int ValueOfLater(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
 
+/// No value.
+constexpr double Lowest = -1e9;
+
 /// The value of a candidate as plain arithmetic rounds it, when its exact value is known: the
 /// division and the subtraction of every ply in floating point, and the highest result of all lines
-/// that are equally good.
-double RoundedValueOf(int ply, const Candidate& candidate, int value, const PlySave& saved);
+/// that are equally good. At or below `least` it is any bound from above, so that not all of these
+/// lines, which can be very many, are followed.
+double RoundedValueOf(int ply, const Candidate& candidate, int value, double least,
+                      const PlySave& saved);
 
 /// The value of a root candidate where all are worth less than NoScore: a side that is about to
 /// lose its last piece is measured against NoScore alone, so that the first reply which shows a
