@@ -23,9 +23,9 @@ void ApplyAction(int origin, int destination);
 /// Precondition: ActionFits.
 void ApplyMoveQuiet(int origin, int destination);
 
-/// All that quiet moves change: saved before a ply's first candidate, restored after each. Copied
-/// part by part, which compilers turn into a few wide moves; a copy of the whole Position they make
-/// by a slow string instruction.
+/// All that quiet moves change once both rings are placed: saved before a ply's first candidate,
+/// restored after each. Copied part by part, which compilers turn into a few wide moves; a copy of
+/// the whole Position they make by a slow string instruction.
 class PlySave {
 public:
     PlySave()

@@ -3,45 +3,13 @@
 #include "core/Position.h"
 #include "core/QuietMove.h"
 #include "core/WinTest.h"
+#include "engine/EvaluationTerms.h"
 
 #include <span>
 
 namespace brastel {
 
 namespace {
-
-// ---- What differs between the sides ----
-
-/// Inclusive bounds of square numbers.
-struct Range {
-    int First;
-    int Last;
-
-    constexpr bool Holds(int square) const { return square >= First && square <= Last; }
-};
-
-struct SideTerms {
-    /// Squares of an enemy carrier so far advanced that it is to be answered, and the origins from
-    /// which a move counts as an answer.
-    Range AdvancedCarrier;
-    Range AnswerOrigins;
-    /// Squares of an enemy carrier around which the enemy crowds, and the first square of the four
-    /// rows in which its crowd is counted.
-    Range CrowdCarrier;
-    int CrowdFirst;
-};
-
-constexpr SideTerms RedTerms{{66, LastSquare}, {FirstSquare, 87}, {74, 79}, 74};
-constexpr SideTerms BlueTerms{{FirstSquare, 47}, {26, LastSquare}, {34, 39}, 10};
-
-constexpr const SideTerms& TermsOf(int side) { return side == Red ? RedTerms : BlueTerms; }
-
-/// A square number by eights: the row, but one more for column 7.
-constexpr int Line(int square) { return square / ColumnCount; }
-
-constexpr bool InGoalColumn(int square) {
-    return square % ColumnCount == 4 || square % ColumnCount == 5;
-}
 
 constexpr std::array<int, 4> BesideOffsets{Right, Left, Down, Up};
 constexpr std::array<int, 4> DiagonalOffsets{Up + Left, Up + Right, Down + Left, Down + Right};
@@ -86,7 +54,7 @@ int AnswerToCarrier(const Move& move) {
 /// Enemy pieces less own ones in the four field rows from the given square down.
 int EnemySurplus(int firstSquare) {
     int sum = 0;
-    for (int row = 0; row < 4; ++row) {
+    for (int row = 0; row < CrowdRows; ++row) {
         for (int column = 0; column < 6; ++column) {
             sum += Pos.Board[firstSquare + row * Down + column * Right];
         }
@@ -113,10 +81,6 @@ int PreparedPasses(const Move& move) {
         }
     }
     return value;
-}
-
-bool IsFieldCorner(int square) {
-    return square == 10 || square == 15 || square == 98 || square == 103;
 }
 
 /// A carrier leaves a corner along its own goal line's second row.
@@ -156,7 +120,7 @@ int EveryMove(const Move& move) {
     if (IsRingSquare(destination)) value += 5;
     if (IsNearRing(destination, BesideOffsets)) value += 2;
     if (IsNearRing(destination, DiagonalOffsets)) value += 1;
-    value += InGoalColumn(destination) - InGoalColumn(move.Origin);
+    value += IsGoalColumn(destination) - IsGoalColumn(move.Origin);
     return value + Contacts(destination);
 }
 
@@ -219,10 +183,10 @@ Int16 ScoreMove(int origin, int destination) {
 }
 
 Int16 GoalFrontCheck(int origin, int destination) {
-    const Position saved = Pos;
+    const PlySave saved;
     ApplyMoveQuiet(origin, destination);
     const Int16 verdict = JudgeGoalFronts();
-    Pos = saved;
+    saved.Restore();
     return verdict;
 }
 

@@ -23,35 +23,36 @@ constexpr SetsBySquare Diagonal = SquaresRelated([](int from, int to) {
            to == from + Down + Right;
 });
 
-/// What differs between the sides; ScoreMove has the same in numbers.
+/// The terms of a side as sets.
 struct SideSets {
     /// By the square of an own carrier: where a forward pass is prepared.
     SetsBySquare PassPrepared;
-    /// Squares of enemy carriers that are to be answered, and by such a square the answers.
     SquareSet AdvancedCarrier;
+    /// By the square of an advanced carrier: the squares that answer it.
     SetsBySquare Answering;
-    /// Squares of enemy carriers around which the enemy crowds, and where its crowd is counted.
     SquareSet CrowdCarrier;
     SquareSet Crowd;
 };
 
-constexpr SideSets RedSets{
-    SquaresRelated(
-        [](int from, int to) { return to == from + 2 * Up + Left || to == from + 2 * Up + Right; }),
-    SquaresWhere([](int s) { return s >= 66; }),
-    SquaresRelated([](int from, int to) { return to / 8 >= from / 8; }),
-    SquaresWhere([](int s) { return s >= 74 && s <= 79; }),
-    SquaresWhere([](int s) { return s >= 74 && InField(s); }),
-};
-constexpr SideSets BlueSets{
-    SquaresRelated([](int from, int to) {
-        return to == from + 2 * Down + Left || to == from + 2 * Down + Right;
-    }),
-    SquaresWhere([](int s) { return s <= 47; }),
-    SquaresRelated([](int from, int to) { return to / 8 <= from / 8; }),
-    SquaresWhere([](int s) { return s >= 34 && s <= 39; }),
-    SquaresWhere([](int s) { return s <= 39 && InField(s); }),
-};
+constexpr SideSets SetsOf(int side) {
+    const SideTerms& terms = TermsOf(side);
+    const int ahead = 2 * Forward(side);
+    return {
+        SquaresRelated([=](int from, int to) {
+            return to == from + ahead + Left || to == from + ahead + Right;
+        }),
+        SquaresWhere([&](int s) { return terms.AdvancedCarrier.Holds(s); }),
+        SquaresRelated([=](int from, int to) { return (Line(to) - Line(from)) * side <= 0; }),
+        SquaresWhere([&](int s) { return terms.CrowdCarrier.Holds(s); }),
+        SquaresWhere([&](int s) {
+            const int row = Row(s) - Row(terms.CrowdFirst);
+            return InField(s) && row >= 0 && row < CrowdRows;
+        }),
+    };
+}
+
+constexpr SideSets RedSets = SetsOf(Red);
+constexpr SideSets BlueSets = SetsOf(Blue);
 
 // ---- Sums ----
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "core/Position.h"
 #include "engine/Evaluation.h"
+#include "engine/EvaluationTerms.h"
 #include "engine/SquareValues.h"
 
 /// What the immediate values of all candidates of a position have in common: found once for the
@@ -37,8 +37,6 @@ struct PositionTerms {
 /// Finds the terms of the position for the side to move.
 void FindTerms(PositionTerms& terms);
 
-constexpr bool IsGoalColumn(int square) { return Column(square) == 3 || Column(square) == 4; }
-
 /// The value of a common candidate from an origin, before what its destination adds.
 inline int CommonValue(const PositionTerms& terms, int origin) {
     return terms.MustAnswer ? LossValue : terms.Shared - int{IsGoalColumn(origin)};
@@ -46,8 +44,7 @@ inline int CommonValue(const PositionTerms& terms, int origin) {
 
 /// What the destinations add for candidates from an origin.
 inline const SquareValues& DestinationsFrom(const PositionTerms& terms, int origin) {
-    const bool answers = terms.Side == Red ? origin <= 87 : origin >= 26;
-    return terms.Destination[answers ? 1 : 0];
+    return terms.Destination[TermsOf(terms.Side).AnswerOrigins.Holds(origin) ? 1 : 0];
 }
 
 }  // namespace brastel

@@ -23,7 +23,7 @@ constexpr Window PlacesWhere(Predicate predicate) {
     return places;
 }
 
-constexpr int Square(int number) { return number * number; }
+constexpr int Squared(int number) { return number * number; }
 
 // ---- Steps ----
 
@@ -74,17 +74,17 @@ SquareSet Moved(SquareSet set, int direction) {
 }  // namespace
 
 constexpr Window NearPlaces =
-    PlacesWhere([](int columns, int rows) { return Square(columns) <= 1 && Square(rows) <= 1; });
+    PlacesWhere([](int columns, int rows) { return Squared(columns) <= 1 && Squared(rows) <= 1; });
 constexpr Window HitPlaces =
     PlacesWhere([](int columns, int rows) { return columns == 0 || rows == 0; });
 constexpr Window PassPlaces = PlacesWhere([](int columns, int rows) {
-    return columns != 0 && rows != 0 && Square(columns) + Square(rows) < 8;
+    return columns != 0 && rows != 0 && Squared(columns) + Squared(rows) < 8;
 });
 
 constexpr SetsBySquare Reach = SquaresRelated([](int from, int to) {
     const int columns = Column(to) - Column(from);
     const int rows = Row(to) - Row(from);
-    return columns == 0 || (Square(columns) <= 4 && Square(rows) <= 4);
+    return columns == 0 || (Squared(columns) <= 4 && Squared(rows) <= 4);
 });
 
 Window StepsInto(Window free) { return OpenPlaces[NearPattern(free)] & free; }

@@ -36,8 +36,8 @@ struct RootCandidate {
 
 using RootRow = std::span<RootCandidate>;
 
-/// Before both rings are placed no candidate has a value and all plies are alike, so only their
-/// number counts.
+/// Before both rings are placed no candidate has a value, and all plies list the same placements,
+/// so only the number of plies counts.
 void ValuePlacements(int depth) {
     double value = NoScore;
     for (int ply = depth - 1; ply >= Root; --ply) {
@@ -65,7 +65,8 @@ int SearchRow(RootRow row) {
 
 /// Gives row 1 its final values; `best` is the value of the candidate in front, and the highest.
 /// Values that are equal can still differ in their last digit, which decides what is tied. Losers
-/// are left with a bound below the best.
+/// are left with bounds below the best, each below the one before: with the true values, too, the
+/// first mostly stays ahead of the other losers, and a coin is tossed only for who gets ahead.
 void ValueRow(RootRow row, int best) {
     const PlySave saved;
     const auto isBest = [&](const RootCandidate& candidate) {
@@ -76,7 +77,7 @@ void ValueRow(RootRow row, int best) {
     double highest = Lowest;
     for (const RootCandidate& candidate : row) {
         double& value = MoveScores[Root][candidate.Entry];
-        value = static_cast<double>(best - 1) / UnitsPerPoint;
+        value = static_cast<double>(best - candidate.Entry) / UnitsPerPoint;
         if (!isBest(candidate)) continue;
         value = RoundedValueOf(Root, candidate.Which, best, Lowest, saved);
         highest = std::max(highest, value);
@@ -89,8 +90,8 @@ void ValueRow(RootRow row, int best) {
 
 void SearchRoot(Int16 depth) {
     SortCandidates(Root);
-    CandidateCount[Root] = std::min(CandidateCount[Root], BeamWidth);
-    const int count = CandidateCount[Root];
+    const int count = std::min<int>({CandidateCount[Root], BeamWidth, MaxBeam});
+    CandidateCount[Root] = ToInt16(count);
     // A winning candidate is sorted first, and all keep their immediate values.
     if (count == 0 || IsWin(MoveScores[Root][1])) return;
     if (!BothRingsPlaced()) return ValuePlacements(depth);

@@ -4,11 +4,11 @@
 
 namespace brastel {
 
-/// The ply being searched; 1 between searches, where row 1 keeps the candidates of the last one.
+/// The row of MoveList in which a search leaves its candidates: always 1.
 extern Int16 SearchPly;
 
-/// Candidates kept at the second ply and the amount by which that falls from ply to ply. The search
-/// changes them on its way down and puts them back on its way up.
+/// Candidates kept at the root, at most 32, and the amount by which that falls to the next ply,
+/// itself falling by one from ply to ply. A search only reads them.
 extern Int16 BeamWidth;
 extern Int16 BeamShrink;
 
@@ -19,8 +19,10 @@ void ResetBeam();
 extern std::uint64_t SearchedPositions;
 
 /// Chooses a move for the side to move by looking `depth` plies ahead, 1 to MaxPly. Returns its
-/// index in row 1 of MoveList, where all candidates stand with their final values, or 0 when there
-/// is no candidate. Exact ties are broken by RandomBelow. The position is the same after the call.
+/// index in row 1 of MoveList, or 0 when there is no candidate. In row 1 the candidates then stand
+/// as they were searched, the best with their exact value, the others with a bound below it. Exact
+/// ties are broken by RandomBelow; how many numbers are drawn before the first of the best depends
+/// on the bounds. The position is the same after the call.
 Int16 ChooseCandidate(Int16 depth);
 
 }  // namespace brastel

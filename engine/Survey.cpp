@@ -6,10 +6,6 @@ namespace brastel {
 
 namespace {
 
-constexpr bool IsFieldCorner(int square) {
-    return square == 10 || square == 15 || square == 98 || square == 103;
-}
-
 /// Where the value of a carrier that arrives depends on details.
 constexpr SquareSet JudgedArrivals = SquaresWhere(
     [](int s) { return IsFieldCorner(s) || IsGoalFront(Red, s) || IsGoalFront(Blue, s); });

@@ -87,11 +87,11 @@ int SearchDeepest(int low, int high) {
 void Remember(MemoryEntry& entry, const MemoryEntry& before, int value, int low, int high,
               const Candidate& reply) {
     const bool hadReply = before.Reply.Origin != 0;
-    const bool isNarrowed = before.Depth == Depth;
+    const bool hasBounds = before.Depth == Depth;
     entry = before;
     entry.Depth = ToInt16(Depth);
-    entry.Lower = value > low ? value : isNarrowed ? before.Lower : -Unbounded;
-    entry.Upper = value < high ? value : isNarrowed ? before.Upper : Unbounded;
+    entry.Lower = value > low ? value : hasBounds ? before.Lower : -Unbounded;
+    entry.Upper = value < high ? value : hasBounds ? before.Upper : Unbounded;
     // If all replies are too weak, none has proved best.
     if (value > low || !hadReply) entry.Reply = reply;
 }
@@ -194,6 +194,7 @@ double RoundedValueOf(int ply, const Candidate& candidate, int value, double lea
 }
 
 double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
+    assert(Depth >= 3);
     const double gain = candidate.Value / Discount;
     ApplyMoveQuiet(candidate.Origin, candidate.Destination);
     const PlySave answered;

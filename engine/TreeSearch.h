@@ -34,7 +34,8 @@ constexpr bool IsWin(double immediate) { return immediate > WinValue - 1; }
 // ---- Operations ----
 
 /// Begins a search to a depth of 2 to MaxPly, with the beam widths that are set. Needs both rings
-/// placed. Positions remembered from shallower searches of the same root serve it.
+/// placed. Positions remembered from shallower searches of the same root serve it; those of another
+/// root must be forgotten first, since the side to move counts from there.
 void BeginTree(int depth);
 
 /// Candidates that a ply of the tree keeps, 1 to MaxBeam.
@@ -57,9 +58,10 @@ constexpr double Lowest = -1e9;
 double RoundedValueOf(int ply, const Candidate& candidate, int value, double least,
                       const PlySave& saved);
 
-/// The value of a root candidate where all are worth less than NoScore: a side that is about to
-/// lose its last piece is measured against NoScore alone, so that the first reply which shows a
-/// candidate to be worth less decides, and not the best. Needs a depth of 3 at least.
+/// The value of a root candidate where all are worth less than NoScore, because the opponent can
+/// leave the side without a candidate: they are measured against NoScore alone, so that the first
+/// reply which shows one to be worth less decides, and not the best. Needs a depth of 3 at least;
+/// at 2 nothing is worth so little.
 double HopelessValueOf(const Candidate& candidate, const PlySave& saved);
 
 }  // namespace brastel

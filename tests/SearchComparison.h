@@ -34,9 +34,9 @@ inline void SetUpAnything(Dice& dice) {
     if (Below(dice, 16) == 0) Pos.MoveCount = ToInt16(1 + Below(dice, 2));
     Pos.SideToMove = Below(dice, 2) == 0 ? Red : Blue;
     if (Below(dice, 2) > 0) return;
-    Pos.LastHit = {ToInt16(1 + Below(dice, PieceCount(-Pos.SideToMove))),
-                   ToInt16(1 + Below(dice, PieceCount(Pos.SideToMove)))};
-    Pos.OutsideBalance = ToInt16(Below(dice, 15) - 7);
+    Pos.LastHit = {ToInt16(Below(dice, 1 + MaxPieces)), ToInt16(Below(dice, 1 + MaxPieces))};
+    Pos.OutsideBalance = ToInt16(Below(dice, Below(dice, 4) > 0 ? 15 : 561) - 7);
+    if (Below(dice, 8) == 0) Pos.RingSquare[1] = Pos.RingSquare[0];
 }
 
 /// A lone piece in a corner of the field, hunted by others: where it is sure to be pushed out, all
