@@ -35,7 +35,8 @@ inline void SetUpAnything(Dice& dice) {
     Pos.SideToMove = Below(dice, 2) == 0 ? Red : Blue;
     if (Below(dice, 2) > 0) return;
     Pos.LastHit = {ToInt16(Below(dice, 1 + MaxPieces)), ToInt16(Below(dice, 1 + MaxPieces))};
-    Pos.OutsideBalance = ToInt16(Below(dice, Below(dice, 4) > 0 ? 15 : 561) - 7);
+    const int mostOutside = Below(dice, 4) > 0 ? 7 : 280;
+    Pos.OutsideBalance = ToInt16(Below(dice, 2 * mostOutside + 1) - mostOutside);
     if (Below(dice, 8) == 0) Pos.RingSquare[1] = Pos.RingSquare[0];
 }
 
