@@ -32,7 +32,7 @@ extern const SetsBySquare Reach;
 using PushableTargets = std::array<SquareSet, 4>;
 void FindPushable(const PositionTerms& terms, PushableTargets& pushable);
 
-/// What the pieces of a set can hit, none of which has just been hit itself.
+/// What the pieces of a set can hit, whether or not one may push back.
 SquareSet HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, SquareSet hitters);
 
 }  // namespace brastel

@@ -16,7 +16,7 @@ std::uint64_t Word(int a, int b, int c, int d) {
            static_cast<std::uint64_t>(c) << 16 | static_cast<std::uint64_t>(d);
 }
 
-/// Squares 1 to 8, or 9 to 12, of a side's pieces, a byte each.
+/// The squares of up to eight pieces of a side, a byte each.
 std::uint64_t Packed(const PieceSquares& squares, int first, int count) {
     std::uint64_t word = 0;
     for (int i = 0; i < count; ++i) {
@@ -25,6 +25,7 @@ std::uint64_t Packed(const PieceSquares& squares, int first, int count) {
     return word;
 }
 
+/// The ply is the last number of all.
 PositionKey KeyOf(int ply) {
     const auto balance = static_cast<std::uint16_t>(Pos.OutsideBalance);
     const int rings = Pos.RingSquare[0] << 8 | Pos.RingSquare[1];
@@ -45,11 +46,13 @@ std::size_t SlotOf(const PositionKey& key) {
 
 bool IsCurrent(const MemoryEntry& entry) { return entry.Search == CurrentSearch; }
 
+int PlyOf(const MemoryEntry& entry) { return static_cast<int>(entry.Key.Words[3] & 0xFFFF); }
+
 /// Two neighbours share what falls to either of them. An old entry gives way first, then the one
 /// deeper in the tree, which has less below it.
 MemoryEntry& LessUseful(MemoryEntry& a, MemoryEntry& b) {
     if (!IsCurrent(a)) return a;
-    return IsCurrent(b) && a.Ply >= b.Ply ? a : b;
+    return IsCurrent(b) && PlyOf(a) >= PlyOf(b) ? a : b;
 }
 
 }  // namespace
@@ -69,13 +72,7 @@ MemoryEntry& RecallPosition(int ply) {
     if (IsCurrent(home) && home.Key == key) return home;
     if (IsCurrent(neighbour) && neighbour.Key == key) return neighbour;
     MemoryEntry& entry = LessUseful(home, neighbour);
-    entry = {.Key = key,
-             .Search = CurrentSearch,
-             .Ply = ToInt16(ply),
-             .Depth = 0,
-             .Lower = 0,
-             .Upper = 0,
-             .Reply = {}};
+    entry = {.Key = key, .Search = CurrentSearch, .Depth = 0, .Lower = 0, .Upper = 0, .Reply = {}};
     return entry;
 }
 

@@ -18,9 +18,8 @@ struct alignas(64) MemoryEntry {
     PositionKey Key;
     /// The search that wrote the entry; those of earlier ones are not read.
     std::uint32_t Search;
-    Int16 Ply;
     /// The depth of search for which the bounds hold, 0 before the first.
-    Int16 Depth;
+    int Depth;
     /// Bounds of the position's value, in its own units.
     int Lower;
     int Upper;

@@ -10,6 +10,7 @@ namespace brastel {
 namespace {
 
 int Depth = 2;
+/// Candidates that each ply keeps, 1 to MaxBeam.
 Table<int, 0, MaxPly> Widths;
 
 /// The value of a position whose side has no candidate, or none that is worth more.
@@ -67,7 +68,7 @@ const Candidate* NextReply(Replies& replies) {
             if (First(replies) != replies.Remembered) return &First(replies);
             [[fallthrough]];
         case Replies::AtBeam:
-            replies.Kept = KeepBeam(replies.Candidates, WidthOf(replies.Ply));
+            replies.Kept = KeepBeam(replies.Candidates, Widths[replies.Ply]);
             replies.Stage = Replies::InBeam;
             replies.Next = 1;
             [[fallthrough]];
@@ -89,7 +90,7 @@ void Remember(MemoryEntry& entry, const MemoryEntry& before, int value, int low,
     const bool hadReply = before.Reply.Origin != 0;
     const bool hasBounds = before.Depth == Depth;
     entry = before;
-    entry.Depth = ToInt16(Depth);
+    entry.Depth = Depth;
     entry.Lower = value > low ? value : hasBounds ? before.Lower : -Unbounded;
     entry.Upper = value < high ? value : hasBounds ? before.Upper : Unbounded;
     // If all replies are too weak, none has proved best.
@@ -145,7 +146,7 @@ double RoundedValue(int ply, int value, double gain, double least) {
     SurveyBest(survey);
     if (survey.Best == NoValue) return NoScore;
     if (IsWin(survey.Best)) return static_cast<double>(value) / UnitsPerPoint;
-    const Beam beam = KeepBeam(survey, WidthOf(ply));
+    const Beam beam = KeepBeam(survey, Widths[ply]);
     const PlySave saved;
     double best = NoScore;
     for (std::size_t n = 0; n < beam.Count && gain - best > least; ++n) {
@@ -167,8 +168,6 @@ void BeginTree(int depth) {
         width -= shrink--;
     }
 }
-
-int WidthOf(int ply) { return Widths[ply]; }
 
 int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved) {
     const int gain = Discounted(candidate.Value);
@@ -201,7 +200,7 @@ double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
     Survey survey;
     BeginSurvey(survey);
     SurveyBest(survey);
-    const Beam beam = KeepBeam(survey, WidthOf(2));
+    const Beam beam = KeepBeam(survey, Widths[2]);
     double answer = NoScore;
     int best = Nothing;
     for (std::size_t n = 0; n < beam.Count && gain - answer >= NoScore; ++n) {

@@ -7,12 +7,11 @@
 ///
 /// It finds the same values as trying all candidates of all beams, and leaves out what cannot
 /// change them:
-/// - Bounds from the whole line above: what a side has already been promised anywhere above cannot
-///   be refused below. A reply that lets the opponent do better ends the position (SearchReplies).
+/// - Bounds from the whole line above: each side has been promised something there, and a reply
+///   worth more than the opponent can allow ends the position (`low` and `high` of ValueOf).
 /// - No room between the bounds for all replies but the first: mostly it is enough to know that
 ///   they are no better; only one that is gets searched again (ValueOfLater).
-/// - Memory of positions: bounds for one reached before, and the reply to begin with
-/// (SearchMemory).
+/// - Memory of positions: bounds for one reached before, the reply to begin with (SearchMemory).
 /// - Shallower searches first, which fill that memory (the root, in Search).
 /// - Replies that are likely best come before the beam is even known (Replies).
 /// - Candidates many at a time and only as far as they are asked for (Survey, Beam).
@@ -37,9 +36,6 @@ constexpr bool IsWin(double immediate) { return immediate > WinValue - 1; }
 /// placed. Positions remembered from shallower searches of the same root serve it; those of another
 /// root must be forgotten first, since the side to move counts from there.
 void BeginTree(int depth);
-
-/// Candidates that a ply of the tree keeps, 1 to MaxBeam.
-int WidthOf(int ply);
 
 /// The value of a candidate of the position at a ply, in units: exact between the bounds, at or
 /// beyond them a bound itself. `saved` is the position, which is the same after the call.
