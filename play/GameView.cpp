@@ -1,5 +1,7 @@
 #include "play/GameView.h"
 
+#include <chrono>
+
 namespace brastel {
 
 namespace {
@@ -7,6 +9,11 @@ namespace {
 GameView NoView;
 
 }  // namespace
+
+double GameView::Now() const {
+    const auto time = std::chrono::steady_clock::now().time_since_epoch();
+    return std::chrono::duration<double>(time).count();
+}
 
 GameView* View = &NoView;
 

@@ -8,8 +8,6 @@
 #include "play/GameState.h"
 #include "play/GameView.h"
 
-#include <chrono>
-
 namespace brastel {
 
 namespace {
@@ -38,9 +36,8 @@ bool IsComputersTurn() {
 }  // namespace
 
 void PauseWithEvents(float seconds) {
-    using Clock = std::chrono::steady_clock;
-    const auto end = Clock::now() + std::chrono::duration<float>(seconds);
-    while (Clock::now() < end) View->HandleEvents();
+    const double end = View->Now() + seconds;
+    while (View->Now() < end) View->HandleEvents();
 }
 
 Int16 ChooseMove(Int16 depth) {

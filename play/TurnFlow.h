@@ -5,8 +5,7 @@
 /// Who moves when: the computer's move and when it answers.
 namespace brastel {
 
-/// Handles window events again and again until the time, in seconds, has passed since the call; the
-/// clock cannot be set back.
+/// Handles window events again and again until the time, in seconds, has passed since the call.
 void PauseWithEvents(float seconds);
 
 /// Searches `depth` plies for the side to move, with "Thinking ..." and the busy cursor. Returns an

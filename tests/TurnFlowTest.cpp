@@ -1,3 +1,4 @@
+#include "play/TurnFlow.h"
 #include "tests/GameTest.h"
 
 namespace brastel {
@@ -46,6 +47,17 @@ TEST_F(TurnFlowTest, WhatTheUserDoesMeanwhileIsIgnored) {
     EXPECT_EQ(State(), "4 Red Back");
     EXPECT_EQ(Level, 1);
     EXPECT_EQ(Window.Searches, 2);
+}
+
+/// Long enough to draw "Thinking ...", and nothing is handled once the time is over; after the
+/// search, once more.
+TEST_F(TurnFlowTest, EventsAreHandledBeforeAndAfterASearch) {
+    int passes = 0;
+    Window.OnEvents = [&] { ++passes; };
+    Run({{"a hint", "", "hint => 1 Blue Back"}});
+    EXPECT_EQ(passes, 3 + 1);
+    PauseWithEvents(0);
+    EXPECT_EQ(passes, 3 + 1);
 }
 
 TEST_F(TurnFlowTest, AClosedWindowPlaysNothing) {
