@@ -6,6 +6,7 @@ FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
 TestPackages=(libgtest-dev libbenchmark-dev openbox x11-utils)
 CheckPackages=(clang-format clang-tidy)
+FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
 
 # Asks for the password only where somebody can type it.
 may_use_sudo() {

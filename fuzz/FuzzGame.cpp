@@ -1,0 +1,69 @@
+#include "fuzz/FuzzGame.h"
+
+#include "core/Consistency.h"
+#include "core/StartPosition.h"
+#include "files/GameFile.h"
+#include "fuzz/FuzzTarget.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+
+#include <cstdlib>
+#include <unistd.h>
+
+namespace brastel {
+
+void ShownGame::RequireSound() const {
+    const std::string fault = FirstInconsistency();
+    Require(fault.empty(), fault);
+    Require(Pos.MoveCount <= MaxEntries + 1, "the record ran over");
+    Require(Shown.Board == Pos.Board && Shown.RingSquare == Pos.RingSquare,
+            "the view was not told of a change");
+    Require(Turn == Pos.SideToMove, "the turn circles are wrong");
+    Require(Forward == ForwardVisible && Backward == BackwardVisible, "a button is wrong");
+    Require(BusyDepth == 0 && !IsThinking, "the game still thinks");
+}
+
+void ShownFiles::OpenMainWindow() { OpenGame(); }
+
+MemoryFile::MemoryFile() : Name("/dev/shm/brastel-XXXXXX"), File(mkstemp(Name.data())) {
+    Require(File >= 0, "no file in memory");
+}
+
+MemoryFile::~MemoryFile() {
+    close(File);
+    unlink(Name.c_str());
+}
+
+void MemoryFile::Write(std::string_view bytes) const {
+    Require(ftruncate(File, 0) == 0, "the file in memory cannot be emptied");
+    const ssize_t written = pwrite(File, bytes.data(), bytes.size(), 0);
+    Require(written == static_cast<ssize_t>(bytes.size()), "the file in memory is full");
+}
+
+std::string MemoryFile::Read() const {
+    std::string bytes(static_cast<std::size_t>(lseek(File, 0, SEEK_END)), '\0');
+    const ssize_t count = pread(File, bytes.data(), bytes.size(), 0);
+    Require(count == static_cast<ssize_t>(bytes.size()), "the file in memory cannot be read");
+    return bytes;
+}
+
+void StartProgram(ShownGame& game, ShownFiles& files) {
+    constexpr int StandardLayout = 3;
+    SetView(&game);
+    SetFileView(&files);
+    LoadedFileName.clear();
+    PlayedFrom = PlayedTo = LoadedFrom = LoadedTo = RecordColumn();
+    LoadedCount = 0;
+    Pos = Position();
+    SelectStartLayout(StandardLayout);
+    TakeLoadedGame();
+}
+
+bool LoadFrom(const MemoryFile& file, ShownFiles& files) {
+    files.Warnings = 0;
+    LoadGameFile(file.Path());
+    BeginLoadedGame();
+    return files.Warnings == 0;
+}
+
+}  // namespace brastel

@@ -1,0 +1,170 @@
+/// Plays a stream of commands, as from the mouse, the buttons and the menus, against a game without
+/// a window. An input shorter than the least number of commands is played again from its start.
+
+#include "core/StartPosition.h"
+#include "engine/Candidates.h"
+#include "files/GameFile.h"
+#include "fuzz/FuzzGame.h"
+#include "fuzz/FuzzTarget.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "play/Hint.h"
+#include "play/HumanAction.h"
+
+#include <algorithm>
+#include <array>
+
+namespace brastel {
+namespace {
+
+constexpr std::size_t CommandSize = 4;
+constexpr std::size_t LeastCommands = 50;
+constexpr std::size_t MostCommands = 250;
+
+/// What follows the number of a command; each reads what it needs.
+struct Arguments {
+    int A;
+    int B;
+    int C;
+};
+
+void RunWhileThinking();
+
+/// While the computer thinks, it plays with a user who cannot wait, or closes the window.
+class BusyGame : public ShownGame {
+public:
+    bool ClosesNext = false;
+
+    void HandleEvents() override {
+        ShownGame::HandleEvents();
+        RunWhileThinking();
+        Closing = ClosesNext;
+    }
+};
+
+BusyGame Game;
+ShownFiles Files;
+const std::array<MemoryFile, 2> Saved;
+
+// ---- What the numbers mean ----
+
+/// Also sides and indexes that no piece has.
+Piece PieceOf(int number) {
+    constexpr std::array<Int16, 4> Sides{Red, Blue, Red, Empty};
+    return {Sides[static_cast<std::size_t>(number % 4)], ToInt16(number / 4 % 16 - 1)};
+}
+
+/// A view coordinate, now and then outside the board and the window.
+int PointOf(int number) { return number * 3 - 60; }
+
+int SquareOf(int number) { return FirstSquare + number % LastSquare; }
+
+// ---- Commands ----
+
+/// Drags what stands on a square to another square.
+void Drag(int from, int to) {
+    const Piece dragged = PieceOn(from);
+    if (const Piece target = PieceOn(to)) return DropOnPiece(dragged, target);
+    DropOnBoard(dragged, SquareLeft(to) + 1, SquareTop(to) + CellSize - 1);
+}
+
+/// Mostly accepted, so that games get somewhere.
+void DragCandidate(Arguments a) {
+    if (CandidateCount[1] == 0) return;
+    const MoveCode code = MoveList[1][1 + (a.A + 256 * a.B) % CandidateCount[1]];
+    if (IsOnBoard(OriginOf(code)) && IsOnBoard(DestinationOf(code))) {
+        Drag(OriginOf(code), DestinationOf(code));
+    }
+}
+
+void DragAnything(Arguments a) { Drag(SquareOf(a.A), SquareOf(a.B)); }
+void DropAnywhere(Arguments a) { DropOnBoard(PieceOf(a.A), PointOf(a.B), PointOf(a.C)); }
+void DropOnAnyPiece(Arguments a) { DropOnPiece(PieceOf(a.A), PieceOf(a.B)); }
+void DoubleClick(Arguments a) { DoubleClickPiece(PieceOf(a.A)); }
+void Click(Arguments a) { ClickBoard(PointOf(a.A), PointOf(a.B)); }
+void AskHint(Arguments /*a*/) { Hint(); }
+void Forward(Arguments /*a*/) { StepForward(); }
+void Backward(Arguments /*a*/) { StepBack(); }
+void NewGame(Arguments /*a*/) { NewGameCommand(); }
+
+/// Deeper levels play by the same steps, only longer.
+void ChooseLevel(Arguments a) {
+    constexpr std::array<Int16, 6> Levels{TwoPlayerLevel, 1, 2, 3, -1, MaxPly + 1};
+    SetLevel(Levels[static_cast<std::size_t>(a.A) % Levels.size()]);
+}
+
+void ChoosePieceNumber(Arguments a) {
+    SelectStartLayout(a.A % (LayoutCount + 2) - 1);
+    Files.OpenMainWindow();
+}
+
+void Save(Arguments a) { SaveGameFile(Saved[static_cast<std::size_t>(a.A % 2)].Path()); }
+void Load(Arguments a) { LoadFrom(Saved[static_cast<std::size_t>(a.A % 2)], Files); }
+
+/// The window is closed as soon as the next command lets the computer think.
+void CloseWhileThinking(Arguments /*a*/) { Game.ClosesNext = true; }
+
+using Command = void (*)(Arguments);
+
+/// What a user can do at any moment, also while the computer thinks.
+constexpr std::array<Command, 17> GameCommands{
+    DragCandidate, DragCandidate, DragCandidate,  DragCandidate, DragCandidate, DragCandidate,
+    DragAnything,  DropAnywhere,  DropOnAnyPiece, DoubleClick,   DoubleClick,   Click,
+    AskHint,       Forward,       Backward,       NewGame,       ChooseLevel};
+
+/// What the window does not let through meanwhile.
+constexpr std::array<Command, 4> WindowCommands{ChoosePieceNumber, Save, Load, CloseWhileThinking};
+
+Command CommandOf(int number) {
+    const auto n = static_cast<std::size_t>(number) % (GameCommands.size() + WindowCommands.size());
+    return n < GameCommands.size() ? GameCommands[n] : WindowCommands[n - GameCommands.size()];
+}
+
+/// Every command of the game, one after the other: none may do anything now.
+void RunWhileThinking() {
+    const Position before = Pos;
+    const Int16 level = Level;
+    for (const Command command : GameCommands) command({12, 13, 14});
+    Require(Pos == before && Level == level, "the game went on while the computer thinks");
+}
+
+/// The program ended with its window.
+void StartAgain() {
+    Game.Closing = false;
+    Files.OpenMainWindow();
+}
+
+void RunOne(FuzzInput& input) {
+    const Command command = CommandOf(input.Byte());
+    const int a = input.Byte();
+    const int b = input.Byte();
+    const int c = input.Byte();
+    command({a, b, c});
+    if (command != CloseWhileThinking) Game.ClosesNext = false;
+    if (Game.Closing) StartAgain();
+    Game.RequireSound();
+    Require(Game.Message != ThinkingText, "the message stayed");
+}
+
+void StartStream() {
+    StartProgram(Game, Files);
+    for (const MemoryFile& file : Saved) file.Write("");
+    Game.Closing = Game.ClosesNext = false;
+    Files.OpenMainWindow();
+}
+
+}  // namespace
+}  // namespace brastel
+
+int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
+    using namespace brastel;
+    if (size < CommandSize) return 0;
+    StartStream();
+    const std::size_t commands = std::clamp(size / CommandSize, LeastCommands, MostCommands);
+    FuzzInput input(data, size);
+    for (std::size_t n = 0; n < commands; ++n) {
+        if (input.IsOver()) input = FuzzInput(data, size);
+        RunOne(input);
+    }
+    return 0;
+}
