@@ -51,7 +51,7 @@ Codes AcceptedFor(int from) {
         if (!IsAccepted(from, to) || IsLongCarrierStep(from, to)) continue;
         codes.push_back(EncodeMove(from, to));
     }
-    std::ranges::stable_partition(codes, slides);
+    std::stable_partition(codes.begin(), codes.end(), slides);
     if (IsRingSquare(from) && IsGoalFront(Pos.SideToMove, from)) {
         codes.insert(codes.begin(), EncodeMove(from, GoalSquare(Pos.SideToMove)));
     }
