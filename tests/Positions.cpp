@@ -37,9 +37,9 @@ std::string Listed() {
 }
 
 bool IsAccepted(int from, int to) {
-    const Piece actor = PieceOn(from);
     const Piece other = PieceOn(to);
     if (!other) return CheckPlainMove(from, to);
+    const Piece actor = PieceOn(from);
     if (other.Side == Pos.SideToMove) return CheckRingPass(actor, other);
     return CheckHit(actor, other) == HitVerdict::Accepted;
 }
