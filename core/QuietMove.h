@@ -19,7 +19,8 @@ bool ActionFits(int origin, int destination);
 void ApplyAction(int origin, int destination);
 
 /// Applies the action, brings back pieces that it lets in, and passes the turn. The search calls
-/// this for every candidate, so only cells near changed squares are looked at. MoveCount stays.
+/// this for every candidate, so only cells near changed squares are looked at: a piece placed
+/// outside by hand that could come back from the start on is not let in elsewhere. MoveCount stays.
 /// Precondition: ActionFits.
 void ApplyMoveQuiet(int origin, int destination);
 
