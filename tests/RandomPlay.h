@@ -31,7 +31,9 @@ inline Action DrawAction(Dice& dice) {
         Action action{OriginOf(MoveList[1][best]), DestinationOf(MoveList[1][best])};
         if (Below(dice, 8) == 0) {
             action.first = Pos.RingSquare[dice() % RingCount];
-            action.second = action.first + Below(dice, 5) - 2 + (Below(dice, 5) - 2) * Down;
+            const int columns = Below(dice, 5) - 2;
+            const int rows = Below(dice, 5) - 2;
+            action.second = action.first + columns * Right + rows * Down;
         }
         if (IsAccepted(action.first, action.second)) return action;
     }

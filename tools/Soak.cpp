@@ -31,7 +31,7 @@ and forward leads nowhere. Prints how often everything happened.
   --help       show this text
 
 Status: 0 if nothing is wrong; 1 at the first inconsistency, whose game is printed, and if some kind
-of event never happened in 10000 games of all layouts or more; 2 for bad arguments.
+of event never happened in 2000 games of all layouts or more; 2 for bad arguments.
 )";
 
 constexpr int FoundFault = 1;
@@ -138,9 +138,11 @@ bool PlayAll(const Options& options) {
     return true;
 }
 
+constexpr std::int64_t EnoughGames = 2000;
+
 /// A long run that never saw some kind of event has proved nothing about it.
 bool HasSeenAll(const Options& options) {
-    if (options.Layout != AllLayouts || options.Games < Options().Games) return true;
+    if (options.Layout != AllLayouts || options.Games < EnoughGames) return true;
     const std::string missing = FirstMissing();
     if (!missing.empty()) std::printf("There were no %s.\n", missing.c_str());
     return missing.empty();

@@ -56,11 +56,14 @@ public:
     }
 
 private:
-    // ---- Draws ----
+    // ---- Draws: one in a statement, since compilers order the parts of one differently ----
 
     bool OneIn(int n) { return Below(Random, n) == 0; }
     /// Also one that does not exist.
-    Piece AnyPiece() { return {OneIn(2) ? Red : Blue, ToInt16(Below(Random, MaxPieces + 2))}; }
+    Piece AnyPiece() {
+        const Int16 side = OneIn(2) ? Red : Blue;
+        return {side, ToInt16(Below(Random, MaxPieces + 2))};
+    }
     /// Also up to one cell beside the board.
     int AnyX() { return BoardLeft - CellSize + Below(Random, BoardWidth + 2 * CellSize); }
     int AnyY() { return BoardTop - CellSize + Below(Random, BoardHeight + 2 * CellSize); }
@@ -153,19 +156,27 @@ private:
 
     /// Any gesture at all, most of which are refused.
     void TryAnything() {
-        const Piece lastHitter{ToInt16(-Pos.SideToMove), Pos.LastHit[0]};
+        const Piece dragged = AnyPiece();
+        const Piece target = AnyPiece();
+        const int x = AnyX();
+        const int y = AnyY();
         switch (Below(Random, 5)) {
             case 0:
-                return DropOn(AnyPiece(), AnyPiece());
+                return DropOn(dragged, target);
             case 1:
-                return DropOn({Pos.SideToMove, Pos.LastHit[1]}, lastHitter);
+                return DropOnLastHitter();
             case 2:
-                return DoubleClick(AnyPiece());
+                return DropAt(dragged, x, y);
             case 3:
-                return Refuse([x = AnyX(), y = AnyY()] { ClickBoard(x, y); });
+                return DoubleClick(dragged);
             default:
-                return DropAt(AnyPiece(), AnyX(), AnyY());
+                return Refuse([=] { ClickBoard(x, y); });
         }
+    }
+
+    void DropOnLastHitter() {
+        const auto [hitter, hit] = Pos.LastHit;
+        DropOn({Pos.SideToMove, hit}, {ToInt16(-Pos.SideToMove), hitter});
     }
 
     void TryBeyondRecord() {
@@ -228,8 +239,9 @@ private:
 
     void Drop(int from, int to) {
         if (const Piece target = PieceOn(to)) return DropOn(PieceOn(from), target);
-        DropAt(PieceOn(from), SquareLeft(to) + Below(Random, CellSize),
-               SquareTop(to) + Below(Random, CellSize));
+        const int x = SquareLeft(to) + Below(Random, CellSize);
+        const int y = SquareTop(to) + Below(Random, CellSize);
+        DropAt(PieceOn(from), x, y);
     }
 
     void DropAt(Piece dragged, int x, int y) {
