@@ -42,6 +42,8 @@ bool IsFormPoint(const QWidget& form, QPoint point) {
 
 MouseInput::MouseInput(QWidget* view) : QObject(view), Form(view), Outline(new DragOutline(view)) {
     Form->installEventFilter(this);
+    // Moves without a button tell that a release went elsewhere.
+    Form->setMouseTracking(true);
 }
 
 void MouseInput::Cancel() {
@@ -76,7 +78,15 @@ bool MouseInput::eventFilter(QObject* /*watched*/, QEvent* event) {
     }
 }
 
+/// Ends a gesture whose button is no longer down: its release went elsewhere, and the next one
+/// would drop the piece wherever it comes.
+void MouseInput::CancelIfLost(const QMouseEvent& event) {
+    const Qt::MouseButtons heldBefore = event.buttons() & ~Qt::MouseButtons(event.button());
+    if (!heldBefore.testFlag(Button)) Cancel();
+}
+
 void MouseInput::Press(const QMouseEvent& event) {
+    CancelIfLost(event);
     if (Current != Gesture::None) return;
     const QPoint point = PixelOf(event);
     Button = event.button();
@@ -93,15 +103,14 @@ void MouseInput::Press(const QMouseEvent& event) {
 /// The first click of the pair was a press and a release of its own; this one starts no gesture, so
 /// that its release is no click. A piece that the first click has only just put there is no target.
 void MouseInput::DoubleClick(const QMouseEvent& event) {
+    CancelIfLost(event);
     if (Current != Gesture::None) return;
     const Piece piece = BoardView::PieceAt(PixelOf(event));
     if (piece && piece == Pressed) emit Piece_DblClick(piece);
 }
 
 void MouseInput::Move(const QMouseEvent& event) {
-    if (Current == Gesture::None) return;
-    // The release went elsewhere.
-    if (!event.buttons().testFlag(Button)) return Cancel();
+    CancelIfLost(event);
     if (Current == Gesture::Drag) ShowOutline(PixelOf(event));
 }
 

@@ -39,6 +39,7 @@ protected:
 private:
     enum class Gesture { None, Drag, Click };
 
+    void CancelIfLost(const QMouseEvent& event);
     void Press(const QMouseEvent& event);
     void DoubleClick(const QMouseEvent& event);
     void Move(const QMouseEvent& event);
