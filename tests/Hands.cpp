@@ -80,8 +80,8 @@ void Hands::Tap(QWindow* window, QPoint place) {
     Note("tap" + At(place), window);
     if (!IsThere(window)) return;
     const QPointer<QWindow> tapped = window;
-    QTest::touchEvent(window, Screen).press(0, place);
-    if (IsThere(tapped)) QTest::touchEvent(tapped, Screen).release(0, place);
+    QTest::touchEvent(window, Screen.get()).press(0, place);
+    if (IsThere(tapped)) QTest::touchEvent(tapped, Screen.get()).release(0, place);
 }
 
 // ---- Keyboard ----

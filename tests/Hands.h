@@ -4,6 +4,8 @@
 #include <QPointingDevice>
 #include <QWindow>
 
+#include <memory>
+
 namespace brastel {
 
 /// One mouse, one keyboard and what a window manager does: each call is one event, which takes the
@@ -40,7 +42,7 @@ public:
 private:
     void Mouse(QEvent::Type type, QWindow* window, QPoint place, Qt::MouseButton button);
 
-    QPointingDevice* const Screen;
+    const std::unique_ptr<QPointingDevice> Screen;
     int Milliseconds = 0;
 };
 

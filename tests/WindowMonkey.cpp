@@ -13,6 +13,7 @@
 #include "ui/MainWindow.h"
 
 #include <QApplication>
+#include <QListWidget>
 #include <QMenuBar>
 #include <QPushButton>
 #include <QScreen>
@@ -64,26 +65,8 @@ constexpr Qt::KeyboardModifiers Modifiers[] = {
 /// Access keys of menus, items and dialogs; cut, copy, paste, select all.
 constexpr std::string_view Letters = "olhnscxrtedapgkyvz*.";
 
-const QString Names[] = {"*.*",
-                         "*.txt",
-                         "?",
-                         "[a",
-                         "*",
-                         "unter",
-                         "unter/tief",
-                         "..",
-                         ".",
-                         "../..",
-                         "/",
-                         "//",
-                         "/proc",
-                         "/dev/zero",
-                         "/proc/self/mem",
-                         "/root",
-                         "~",
-                         "",
-                         " ",
-                         "03-example.txt",
+/// In the scratch folder.
+const QString Games[] = {"03-example.txt",
                          "06-passes.txt",
                          "200-entries.txt",
                          "01-free-setup-red-ready.txt",
@@ -92,21 +75,41 @@ const QString Names[] = {"*.*",
                          "unter/04-image.txt",
                          "unter/03-empty.txt",
                          "unter/05-square-113.txt",
-                         "no such",
                          "neu",
-                         "neu 2",
-                         "unter/../neu",
-                         "no/such/folder",
-                         "\"quoted\"",
-                         "%s%n",
-                         "名前",
-                         "\u202eabc",
-                         "a\nb",
-                         QString(300, 'x'),
-                         QString(5000, 'y'),
-                         QString(3000, '/')};
+                         "unter/tief/neu"};
+const QString OddNames[] = {"*.*",
+                            "*.txt",
+                            "?",
+                            "[a",
+                            "*",
+                            "unter",
+                            "unter/tief",
+                            "..",
+                            ".",
+                            "../..",
+                            "/",
+                            "//",
+                            "/proc",
+                            "/dev/zero",
+                            "/proc/self/mem",
+                            "/root",
+                            "~",
+                            "",
+                            " ",
+                            "no such",
+                            "unter/../neu",
+                            "no/such/folder",
+                            "\"quoted\"",
+                            "%s%n",
+                            "名前",
+                            "\u202eabc",
+                            "a\nb",
+                            QString(300, 'x'),
+                            QString(5000, 'y'),
+                            QString(3000, '/')};
 
-const char* const Menus[] = {"mnu_Options", "mnu_Level", "mnu_Level", "mnu_Help"};
+const char* const Menus[] = {"mnu_Options", "mnu_Options", "mnu_Options",
+                             "mnu_Level",   "mnu_Level",   "mnu_Help"};
 
 const std::array StatusTexts{BlankText, ThinkingText, RedWinsText, BlueWinsText, PushBackText};
 
@@ -182,7 +185,7 @@ private:
     Plan ChooseByKeys();
     Plan TypeKey();
     Plan TypeCharacter();
-    Plan TypeName();
+    Plan UseFileDialog();
     Plan TurnWheel();
     Plan Tap();
     Plan ChangeFocus();
@@ -192,6 +195,7 @@ private:
     // ---- Parts of deeds ----
     Plan ClicksAt(QPoint place, int count, Qt::MouseButton button);
     Plan Drag(QPoint from, QPoint to, Qt::MouseButton button);
+    Plan TypeName(const QWidget& box);
     Plan Choose(const char* menu, QAction* item);
     Plan Key(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {});
     /// Changes the position if the window listens; empty where the rules leave nothing to do.
@@ -240,15 +244,24 @@ private:
 };
 
 const WindowMonkey::Deed WindowMonkey::Deeds[] = {
-    {20, &WindowMonkey::Click},        {6, &WindowMonkey::PressOnly},
-    {6, &WindowMonkey::ReleaseOnly},   {10, &WindowMonkey::MoveOnly},
-    {8, &WindowMonkey::DoubleClick},   {14, &WindowMonkey::DragPiece},
-    {14, &WindowMonkey::PlayLegally},  {10, &WindowMonkey::ClickButton},
-    {8, &WindowMonkey::ChooseByMouse}, {6, &WindowMonkey::ChooseByKeys},
-    {16, &WindowMonkey::TypeKey},      {4, &WindowMonkey::TypeCharacter},
-    {6, &WindowMonkey::TypeName},      {3, &WindowMonkey::TurnWheel},
-    {3, &WindowMonkey::Tap},           {4, &WindowMonkey::ChangeFocus},
-    {3, &WindowMonkey::ShakeWindow},   {2, &WindowMonkey::CloseWindow},
+    {10, &WindowMonkey::Click},
+    {6, &WindowMonkey::PressOnly},
+    {6, &WindowMonkey::ReleaseOnly},
+    {10, &WindowMonkey::MoveOnly},
+    {8, &WindowMonkey::DoubleClick},
+    {14, &WindowMonkey::DragPiece},
+    {14, &WindowMonkey::PlayLegally},
+    {10, &WindowMonkey::ClickButton},
+    {8, &WindowMonkey::ChooseByMouse},
+    {6, &WindowMonkey::ChooseByKeys},
+    {16, &WindowMonkey::TypeKey},
+    {4, &WindowMonkey::TypeCharacter},
+    {20, &WindowMonkey::UseFileDialog},
+    {3, &WindowMonkey::TurnWheel},
+    {3, &WindowMonkey::Tap},
+    {4, &WindowMonkey::ChangeFocus},
+    {3, &WindowMonkey::ShakeWindow},
+    {2, &WindowMonkey::CloseWindow},
 };
 
 WindowMonkey::WindowMonkey(int events, unsigned seed, const ScratchFolder& scratch)
@@ -480,6 +493,9 @@ QPoint WindowMonkey::SpotOn(QWidget& widget) {
     if (auto* bar = qobject_cast<QMenuBar*>(&widget); bar != nullptr && Roll(3) > 0) {
         return bar->actionGeometry(Any(actions)).center();
     }
+    if (auto* list = qobject_cast<QListWidget*>(widget.parent()); list != nullptr) {
+        return list->visualItemRect(list->item(Roll(qMax(1, list->count())))).center();
+    }
     if (Roll(3) == 0) return widget.rect().center();
     return {Roll(qMax(1, widget.width())), Roll(qMax(1, widget.height()))};
 }
@@ -546,7 +562,9 @@ Plan WindowMonkey::ClickButton() {
     }
     if (buttons.empty()) return Click();
     const QPushButton* button = Any(buttons);
-    return ClicksAt(button->mapTo(Top(), button->rect().center()), 1, Qt::LeftButton);
+    const bool isImpatient = Roll(8) == 0;
+    return ClicksAt(button->mapTo(Top(), button->rect().center()), isImpatient ? Roll(60) : 1,
+                    Qt::LeftButton);
 }
 
 Plan WindowMonkey::Choose(const char* name, QAction* item) {
@@ -589,15 +607,22 @@ Plan WindowMonkey::TypeCharacter() {
     return Key(letter.toUpper().unicode(), Any(Modifiers), letter);
 }
 
-/// Into the box for it, if there is one.
-Plan WindowMonkey::TypeName() {
+/// Mostly names and lists: the dialog's other parts are clicked by chance.
+Plan WindowMonkey::UseFileDialog() {
     const auto* box = Top()->findChild<QLineEdit*>("txtOpenSave");
-    if (box == nullptr) return TypeCharacter();
-    const bool isWhole = Roll(4) == 0;
-    const QString folder = isWhole ? QString::fromStdString(Scratch.Path()) + "/" : "";
-    return ClicksAt(box->geometry().center(), 1, Qt::LeftButton) +
-           Key(Qt::Key_A, Qt::ControlModifier) +
-           Plan{[this, name = folder + Any(Names)] { Hand.Commit(name); }} + Key(Qt::Key_Return);
+    if (box == nullptr) return Click();
+    if (Roll(2) == 0) return TypeName(*box);
+    const auto* list = Top()->findChild<QListWidget*>(Roll(3) > 0 ? "filOpenSave" : "dirOpenSave");
+    QWidget* rows = list->viewport();
+    return ClicksAt(rows->mapTo(Top(), SpotOn(*rows)), 1 + Roll(2), Qt::LeftButton);
+}
+
+Plan WindowMonkey::TypeName(const QWidget& box) {
+    const QString folder = QString::fromStdString(Scratch.Path()) + "/";
+    const QString name = Roll(2) == 0 ? folder + Any(Games) : Any(OddNames);
+    return ClicksAt(box.geometry().center(), 1, Qt::LeftButton) +
+           Key(Qt::Key_A, Qt::ControlModifier) + Plan{[=, this] { Hand.Commit(name); }} +
+           Key(Qt::Key_Return);
 }
 
 Plan WindowMonkey::TurnWheel() {
@@ -656,7 +681,7 @@ Plan WindowMonkey::LegalDeed() {
 
 Plan WindowMonkey::LegalOpening() {
     const int side = IsPlacingRing(Red) ? Red : Blue;
-    if (InFreeSetup() && PieceCount(side) < (Roll(3) == 0 ? 1 : MaxPieces)) {
+    if (InFreeSetup() && PieceCount(side) < (Roll(8) == 0 ? 1 : MaxPieces)) {
         int square = 1 + Roll(LastSquare);
         while (!InField(square) || Pos.Board[square] != Empty) square = 1 + Roll(LastSquare);
         return ClicksAt(Centre(square), 1, Any(Buttons));
