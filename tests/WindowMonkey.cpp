@@ -332,11 +332,13 @@ void WindowMonkey::ActHere() {
 /// A plan that led to this search is gone on with when it is over.
 void WindowMonkey::ActWhileThinking() {
     Plan ahead = std::exchange(Ahead, {});
+    const Position position = Pos;
     for (int n = 0; n < 3 && LeftInPause > 0 && !Window->IsClosing(); ++n) {
         BeginEvent(LeftInPause--);
         ++ThinkingNumber;
         ActWildly();
-        Expect(IsThinking, "the search was over while events were handled");
+        Expect(IsThinking && Pos == position, "the game went on while the computer thought");
+        Expect(Top() == Window && !Outline()->isVisible(), "input reached the window");
         LookAtGame();
     }
     Ahead = std::move(ahead);
