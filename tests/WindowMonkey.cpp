@@ -34,7 +34,8 @@ namespace {
 constexpr std::string_view Usage =
     "Usage: window_monkey EVENTS [SEED]\n"
     "Random events on the real window, offscreen, which must neither crash nor hang nor show\n"
-    "anything but the position. The same seed gives the same events.\n";
+    "anything but the position. The same seed, 1 by default, gives the same events. A failure\n"
+    "prints the last of them and ends with status 1.\n";
 
 /// Stronger ones only make the monkey wait; chosen by chance, they are set back.
 #ifdef NDEBUG
@@ -50,66 +51,37 @@ constexpr int MostCalmingEvents = 60;
 /// Menus, tool tips and the like that Qt keeps once they have been shown.
 constexpr int SpareWidgets = 40;
 
-constexpr Qt::MouseButton Buttons[] = {Qt::LeftButton,   Qt::LeftButton,   Qt::LeftButton,
-                                       Qt::RightButton,  Qt::MiddleButton, Qt::BackButton,
-                                       Qt::ForwardButton};
 constexpr QPoint Outside(-50, -50);
 
+// clang-format off
+constexpr Qt::MouseButton Buttons[] = {
+    Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton,
+    Qt::BackButton, Qt::ForwardButton};
+
 constexpr int Keys[] = {
-    Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter,    Qt::Key_Tab,  Qt::Key_Backtab,  Qt::Key_Space,
-    Qt::Key_Left,   Qt::Key_Right,  Qt::Key_Up,       Qt::Key_Down, Qt::Key_Home,     Qt::Key_End,
-    Qt::Key_PageUp, Qt::Key_Delete, Qt::Key_PageDown, Qt::Key_F1,   Qt::Key_F4,       Qt::Key_F10,
-    Qt::Key_Alt,    Qt::Key_Menu,   Qt::Key_Insert,   Qt::Key_Help, Qt::Key_Backspace};
+    Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Space,
+    Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End,
+    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Insert, Qt::Key_Delete, Qt::Key_Backspace,
+    Qt::Key_F1, Qt::Key_F4, Qt::Key_F10, Qt::Key_Alt, Qt::Key_Menu, Qt::Key_Help};
 constexpr Qt::KeyboardModifiers Modifiers[] = {
     {}, {}, {}, Qt::AltModifier, Qt::ControlModifier, Qt::ShiftModifier, Qt::MetaModifier};
 /// Access keys of menus, items and dialogs; cut, copy, paste, select all.
 constexpr std::string_view Letters = "olhnscxrtedapgkyvz*.";
 
-/// In the scratch folder.
-const QString Games[] = {"03-example.txt",
-                         "06-passes.txt",
-                         "200-entries.txt",
-                         "01-free-setup-red-ready.txt",
-                         "06-free-setup-uneven.txt",
-                         "unter/06-thirteen-red.txt",
-                         "unter/04-image.txt",
-                         "unter/03-empty.txt",
-                         "unter/05-square-113.txt",
-                         "neu",
-                         "unter/tief/neu"};
-const QString OddNames[] = {"*.*",
-                            "*.txt",
-                            "?",
-                            "[a",
-                            "*",
-                            "unter",
-                            "unter/tief",
-                            "..",
-                            ".",
-                            "../..",
-                            "/",
-                            "//",
-                            "/proc",
-                            "/dev/zero",
-                            "/proc/self/mem",
-                            "/root",
-                            "~",
-                            "",
-                            " ",
-                            "no such",
-                            "unter/../neu",
-                            "no/such/folder",
-                            "\"quoted\"",
-                            "%s%n",
-                            "名前",
-                            "\u202eabc",
-                            "a\nb",
-                            QString(300, 'x'),
-                            QString(5000, 'y'),
-                            QString(3000, '/')};
+const char* const Menus[] = {
+    "mnu_Options", "mnu_Options", "mnu_Options", "mnu_Level", "mnu_Level", "mnu_Help"};
 
-const char* const Menus[] = {"mnu_Options", "mnu_Options", "mnu_Options",
-                             "mnu_Level",   "mnu_Level",   "mnu_Help"};
+/// In the scratch folder.
+const QString Games[] = {
+    "03-example.txt", "06-passes.txt", "200-entries.txt", "01-free-setup-red-ready.txt",
+    "06-free-setup-uneven.txt", "unter/06-thirteen-red.txt", "unter/04-image.txt",
+    "unter/03-empty.txt", "unter/05-square-113.txt", "neu", "unter/tief/neu"};
+const QString OddNames[] = {
+    "*.*", "*.txt", "?", "[a", "*", "unter", "unter/tief", "..", ".", "../..", "/", "//", "/proc",
+    "/dev/zero", "/proc/self/mem", "/root", "~", "", " ", "no such", "unter/../neu",
+    "no/such/folder", "\"quoted\"", "%s%n", "名前", "\u202eabc", "a\nb", QString(300, 'x'),
+    QString(5000, 'y'), QString(3000, '/')};
+// clang-format on
 
 const std::array StatusTexts{BlankText, ThinkingText, RedWinsText, BlueWinsText, PushBackText};
 
@@ -132,7 +104,6 @@ public:
     /// Plays until the events are used up, and opens the window again whenever it has been closed.
     /// A failure ends the program.
     void Run();
-    [[noreturn]] void Fail(const std::string& what) const;
     int EventsWhileThinking() const { return ThinkingNumber; }
     int Windows() const { return WindowCount; }
 
@@ -212,6 +183,7 @@ private:
     int SomePieceSquare();
 
     // ---- Looking ----
+    [[noreturn]] void Fail(const std::string& what) const;
     void Expect(bool isRight, const std::string& what) const {
         if (!isRight) Fail(what);
     }
@@ -414,6 +386,7 @@ bool WindowMonkey::DoCalmingThing() {
     if (top == Window && Window->isMinimized()) {
         NoteEvent("restore");
         Window->showNormal();
+        QCoreApplication::processEvents();
     } else if (QApplication::activePopupWidget() == nullptr &&
                QGuiApplication::focusWindow() != window) {
         Hand.Activate(window);
@@ -655,6 +628,7 @@ Plan WindowMonkey::ShakeWindow() {
         if (dice == 1) top->move(Roll(2000) - 500, Roll(2000) - 500);
         if (dice == 2) top->showMinimized();
         if (dice == 3) top->showNormal();
+        QCoreApplication::processEvents();
     }};
 }
 
@@ -769,10 +743,10 @@ void PrepareEnvironment(const ScratchFolder& scratch) {
     }
 }
 
-/// What the offscreen platform says about itself; everything else is a fault.
-void JudgeMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
-    if (!text.startsWith("This plugin does not support"))
-        std::cerr << text.toStdString() << std::endl;
+/// What the offscreen platform says about itself at every dialog is left out.
+void PrintMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
+    if (text.startsWith("This plugin does not support")) return;
+    std::cerr << text.toStdString() << std::endl;
 }
 
 int Play(unsigned events, unsigned seed) {
@@ -782,7 +756,7 @@ int Play(unsigned events, unsigned seed) {
     int count = 1;
     char name[] = "window_monkey";
     char* names[] = {name, nullptr};
-    qInstallMessageHandler(JudgeMessage);
+    qInstallMessageHandler(PrintMessage);
     const QApplication application(count, names);
     QApplication::setQuitOnLastWindowClosed(false);
     WindowMonkey monkey(static_cast<int>(events), seed, scratch);
