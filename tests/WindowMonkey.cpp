@@ -743,9 +743,12 @@ void PrepareEnvironment(const ScratchFolder& scratch) {
     }
 }
 
-/// What the offscreen platform says about itself at every dialog is left out.
+/// What the platform says about itself at every dialog, and the fonts at odd characters, is left
+/// out.
 void PrintMessage(QtMsgType /*type*/, const QMessageLogContext& /*context*/, const QString& text) {
-    if (text.startsWith("This plugin does not support")) return;
+    for (const auto* usual : {"This plugin does not support", "OpenType support missing"}) {
+        if (text.contains(usual)) return;
+    }
     std::cerr << text.toStdString() << std::endl;
 }
 
