@@ -266,8 +266,8 @@ void WindowMonkey::Run() {
 }
 
 void WindowMonkey::Fail(const std::string& what) const {
-    PrintLastEvents(("FAILED: " + what).c_str());
     Scratch.Remove();
+    PrintLastEvents(("FAILED: " + what).c_str());
     std::_Exit(EXIT_FAILURE);
 }
 
