@@ -86,18 +86,24 @@ void Hands::Tap(QWindow* window, QPoint place) {
 
 // ---- Keyboard ----
 
-void Hands::KeyDown(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+void Hands::Key(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
     QWindow* window = QGuiApplication::focusWindow();
-    Note(QString("key %1 + %2").arg(modifiers, 0, 16).arg(key, 0, 16), window);
+    const QString way = type == QEvent::KeyPress ? "key %1 + %2" : "key %1 + %2 up";
+    Note(way.arg(modifiers, 0, 16).arg(key, 0, 16), window);
     if (!IsThere(window)) return;
-    QTest::sendKeyEvent(QTest::Press, window, Qt::Key(key), text, modifiers);
+    qt_handleKeyEvent(window, type, key, modifiers, text);
+    QCoreApplication::processEvents();
+}
+
+/// Alt has an effect of its own, and can close the menu that had the keyboard.
+void Hands::KeyDown(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    if (modifiers.testFlag(Qt::AltModifier)) Key(QEvent::KeyPress, Qt::Key_Alt, {}, {});
+    Key(QEvent::KeyPress, key, modifiers, text);
 }
 
 void Hands::KeyUp(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    QWindow* window = QGuiApplication::focusWindow();
-    Note(QString("key %1 up").arg(key, 0, 16), window);
-    if (!IsThere(window)) return;
-    QTest::sendKeyEvent(QTest::Release, window, Qt::Key(key), text, modifiers);
+    Key(QEvent::KeyRelease, key, modifiers, text);
+    if (modifiers.testFlag(Qt::AltModifier)) Key(QEvent::KeyRelease, Qt::Key_Alt, {}, {});
 }
 
 void Hands::Commit(const QString& text) {

@@ -41,6 +41,7 @@ public:
 
 private:
     void Mouse(QEvent::Type type, QWindow* window, QPoint place, Qt::MouseButton button);
+    void Key(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString& text);
 
     const std::unique_ptr<QPointingDevice> Screen;
     int Milliseconds = 0;
