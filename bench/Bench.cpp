@@ -30,10 +30,11 @@ games. The last line is the signature of the choices: equal play, equal signatur
 
   --pieces N     only positions of the start layout with N pieces a side: 2, 4, 6, 8, 10 or 12
   --expect HEX   fail with status 1 unless this is the signature
+  --at-most N    fail with status 1 if more positions than this are looked at
   --help         show this text
 )";
 
-constexpr int UnexpectedSignature = 1;
+constexpr int Unexpected = 1;
 constexpr int BadArguments = 2;
 
 // ---- The signature ----
@@ -78,15 +79,22 @@ Timing TimeChoice(Int16 level, int position, Signature& signature) {
     return {time.count(), position};
 }
 
-void BenchLevel(Int16 level, std::span<const int> positions, Signature& signature) {
+/// What the whole run found, on any machine the same.
+struct Findings {
+    Signature Choices = EmptySignature;
+    std::uint64_t Searched = 0;
+};
+
+void BenchLevel(Int16 level, std::span<const int> positions, Findings& findings) {
     std::vector<Timing> timings;
     double seconds = 0;
     std::uint64_t searched = 0;
     for (const int position : positions) {
-        timings.push_back(TimeChoice(level, position, signature));
+        timings.push_back(TimeChoice(level, position, findings.Choices));
         seconds += timings.back().Seconds;
         searched += SearchedPositions;
     }
+    findings.Searched += searched;
     std::ranges::sort(timings, {}, &Timing::Seconds);
     const Timing& worst = timings.back();
     std::printf("%5d  %10.3f ms  %10.3f ms  %10.3f ms  %12" PRIu64 "  %s\n", level,
@@ -101,6 +109,7 @@ struct Options {
     std::vector<Int16> Levels;
     std::vector<int> Positions;
     std::optional<Signature> Expected;
+    std::optional<std::uint64_t> MostSearched;
 };
 
 template <typename Number>
@@ -128,6 +137,11 @@ bool ReadExpected(std::string_view text, Options& options) {
     return options.Expected.has_value();
 }
 
+bool ReadMostSearched(std::string_view text, Options& options) {
+    options.MostSearched = ReadNumber<std::uint64_t>(text, 10);
+    return options.MostSearched.has_value();
+}
+
 /// What an argument stands for. Where it is an option, the next argument is its value.
 struct Argument {
     std::string_view Name;
@@ -135,9 +149,10 @@ struct Argument {
     const char* Complaint;
 };
 
-constexpr std::array<Argument, 3> Arguments{{
+constexpr std::array<Argument, 4> Arguments{{
     {"--pieces", ReadPieces, "--pieces needs 2, 4, 6, 8, 10 or 12"},
     {"--expect", ReadExpected, "--expect needs a hexadecimal number of 64 bits"},
+    {"--at-most", ReadMostSearched, "--at-most needs a whole number"},
     {"", ReadLevel, "what is no option must be a level, 1 to 11"},
 }};
 
@@ -168,20 +183,30 @@ void CompleteOptions(Options& options) {
 
 // ---- The whole run ----
 
-Signature BenchLevels(const Options& options) {
-    Signature signature = EmptySignature;
+Findings BenchLevels(const Options& options) {
+    Findings findings;
     std::printf("level         median          worst            all     positions  worst in\n");
-    for (const Int16 level : options.Levels) BenchLevel(level, options.Positions, signature);
-    std::printf("signature %016" PRIx64 "\n", signature);
-    return signature;
+    for (const Int16 level : options.Levels) BenchLevel(level, options.Positions, findings);
+    std::printf("all positions %" PRIu64 "\nsignature %016" PRIx64 "\n", findings.Searched,
+                findings.Choices);
+    return findings;
 }
 
-int CheckSignature(Signature signature, const std::optional<Signature>& expected) {
-    if (!expected || signature == *expected) return 0;
-    std::fprintf(stderr,
-                 "The computer plays differently: the signature should be %016" PRIx64 ".\n",
-                 *expected);
-    return UnexpectedSignature;
+int CheckFindings(const Findings& findings, const Options& options) {
+    if (options.Expected && findings.Choices != *options.Expected) {
+        std::fprintf(stderr,
+                     "The computer plays differently: the signature should be %016" PRIx64 ".\n",
+                     *options.Expected);
+        return Unexpected;
+    }
+    if (options.MostSearched && findings.Searched > *options.MostSearched) {
+        std::fprintf(stderr,
+                     "The search does more work: it looked at %" PRIu64
+                     " positions, more than %" PRIu64 ".\n",
+                     findings.Searched, *options.MostSearched);
+        return Unexpected;
+    }
+    return 0;
 }
 
 }  // namespace
@@ -198,5 +223,5 @@ int main(int argc, char** argv) {
         return BadArguments;
     }
     CompleteOptions(options);
-    return CheckSignature(BenchLevels(options), options.Expected);
+    return CheckFindings(BenchLevels(options), options);
 }
