@@ -38,6 +38,8 @@ bool PlacedInRange() {
 }  // namespace
 
 std::string FirstInconsistency() {
+    // First, since the squares are read up to these counts.
+    if (!PlacedInRange()) return "more pieces placed than a side has";
     BoardCells expected;
     if (!PiecesFitBoard(Red, expected) || !PiecesFitBoard(Blue, expected)) {
         return "a piece stands off the board or shares its square";
@@ -45,7 +47,6 @@ std::string FirstInconsistency() {
     if (expected != Pos.Board) return "the cells differ from the squares of the pieces";
     if (!RingsInRange()) return "a ring lies off the board";
     if (!LastHitInRange()) return "the last hit names no piece";
-    if (!PlacedInRange()) return "more pieces placed than a side has";
     if (std::abs(Pos.OutsideBalance) > MaxOutsideBalance) return "the outside balance ran away";
     if (Pos.SideToMove != Red && Pos.SideToMove != Blue) return "nobody is to move";
     if (Pos.MoveCount < 1) return "the move count is below 1";
