@@ -51,9 +51,6 @@ constexpr auto FieldSquares = [] {
 /// True for the 72 squares inside the border lines; false for every other number.
 constexpr bool InField(int square) { return IsOnBoard(square) && detail::FieldSquares[square]; }
 
-/// True for a board square outside the field, where a pushed piece waits.
-constexpr bool IsOutsideCell(int square) { return IsOnBoard(square) && !InField(square); }
-
 // ---- View coordinates ----
 
 constexpr int CellSize = 40;
