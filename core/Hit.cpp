@@ -20,7 +20,6 @@ bool IsInReach(int from, int to, int direction) {
 }  // namespace
 
 int PushDirection(int from, int to) {
-    if (from == to) return 0;
     if (Row(from) == Row(to)) return to > from ? Right : Left;
     if (Column(from) == Column(to)) return to > from ? Down : Up;
     return 0;

@@ -13,8 +13,8 @@ enum class HitVerdict { Accepted, Refused, PushBack };
 /// Pieces that do not exist or are on the same side are refused.
 HitVerdict CheckHit(Piece hitter, Piece target);
 
-/// The direction of a push from one square toward another of the same row or column (Left, Right,
-/// Up or Down), or 0 when they share neither or are the same.
+/// The direction of a push from one square toward a different one of the same row or column (Left,
+/// Right, Up or Down), or 0 when they share neither.
 int PushDirection(int from, int to);
 
 /// True if the square `steps` beyond `square` in a direction lies on the board and is empty.
