@@ -19,6 +19,9 @@ namespace brastel {
 class RecordingView : public GameView {
 public:
     std::string Message;
+    /// The position as last drawn.
+    Position Drawn;
+    int Drawings = 0;
     int Beeps = 0;
     int Searches = 0;
     bool Closing = false;
@@ -26,6 +29,10 @@ public:
     std::function<void()> OnEvents = [] {};
     double Clock = 0;
 
+    void PlacePieces() override {
+        Drawn = Pos;
+        ++Drawings;
+    }
     void ShowMessage(std::string_view text) override {
         Message = text;
         Searches += text == ThinkingText;
@@ -112,6 +119,7 @@ protected:
             Start(3);
             SetLevel(TwoPlayerLevel);
             if (*position != 0) Place(position);
+            Window.PlacePieces();
             std::istringstream steps(script);
             for (std::string step; std::getline(steps >> std::ws, step, ';');) Follow(step);
         }
@@ -122,6 +130,7 @@ protected:
         std::istringstream commands(step.substr(0, arrow));
         for (std::string command; commands >> command;) Do(command);
         EXPECT_EQ(State(), step.substr(arrow + 4)) << "after " << step << "\n" << Listed();
+        EXPECT_TRUE(Window.Drawn.Board == Pos.Board && Window.Drawn.RingSquare == Pos.RingSquare);
     }
 
     RecordingView Window;

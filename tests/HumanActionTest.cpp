@@ -11,7 +11,7 @@ TEST_F(HumanActionTest, Scenarios) {
          {"nobody pushes back, another piece may", "b44 r60 r61 r100",
           "44-60 76-60 => 3 Red Back You Cant't Push Back; 61-60 => 4 Blue Back"},
          {"the last pieces of the lists, far from home, get no ring", "",
-          "layout5 66-58 B1 R9 => 0 Red; R8 R1 => 1 Blue Back; B7 => 2 Red Back"},
+          "layout5 66-58 B1 R9 => 0 Red; R8 => 1 Blue Back; R1 => 1 Blue Back; B7 => 2 Red Back"},
          {"free setup", "",
           "layout6 level1 +65 +66 +66 R3 => 0 Red; hint R2 +66 +12 hint => 1 Blue Back; "
           "B2 => 1 Blue Back; B1 => 2 Red Back; level0 +100 66-58 12-20 => 4 Red Back; "
@@ -37,10 +37,12 @@ TEST_F(HumanActionTest, PointsOffTheBoardAndPiecesThatAreNotThere) {
     DropOnPiece({Red, 1}, {Blue, 2});
     EXPECT_TRUE(Pos == before);
     Start(FreeSetupLayout);
+    const int drawings = Window.Drawings;
     ClickBoard(345, 100);
     ClickBoard(-19, 300);  // the strip beside the board counts as its first column
     for (int s = 65; s <= 76; ++s) Click(s);
     EXPECT_EQ(Listed(), "r57 r65 r66 r67 r68 r69 r70 r71 r72 r73 r74 r75") << "no thirteenth";
+    EXPECT_EQ(Window.Drawings, drawings + MaxPieces);
 }
 
 }  // namespace

@@ -37,6 +37,7 @@ const std::vector<std::tuple<const char*, const char*, int, int, std::string>> C
     {"onto an outside cell beside", "r14 b15", 14, 15, "r15 b16"},
     {"into the goal from the second row", "b28 r20", 28, 20, "r4 b20"},
     {"a piece waiting beside the field", "r15 b16", 15, 16, ""},
+    {"a piece waiting at the other end of the next row", "r15 b17", 15, 17, ""},
     {"hit by a waiting piece", "r4 b12", 4, 12, ""},
     {"hit out of turn", "b60 r68", 68, 60, ""},
     {"passes over other pieces", "R68 r53 b60 b61", 68, 53, "R53 b60 b61 r68"},
@@ -99,6 +100,10 @@ TEST(PieceActionTest, PushBack) {
         Pos.LastHit = lastHit;
         EXPECT_EQ(CheckHit({Red, 1}, {Blue, 1}), expected) << pieces;
     }
+    Place("r68 r60");
+    Pos.LastHit = {1, 1};
+    EXPECT_EQ(CheckHit({Red, 1}, {Blue, 1}), HitVerdict::Refused) << "there is no such piece";
+    EXPECT_EQ(CheckHit({Red, 1}, {Red, 2}), HitVerdict::Refused) << "a friend";
 }
 
 /// Entries of a damaged game file reach this test before they reach the position.
