@@ -1,7 +1,5 @@
 #include "core/PlainMove.h"
 
-#include <cstdlib>
-
 namespace brastel {
 
 namespace {
@@ -14,7 +12,7 @@ bool IsPathEmpty(int from, int to, int step) {
 }
 
 bool IsSlide(int from, int to) {
-    if (Column(from) != Column(to) || std::abs(Row(to) - Row(from)) < 2) return false;
+    if (Column(from) != Column(to)) return false;
     const int step = to > from ? Down : Up;
     return Pos.Board[to + step] == Pos.SideToMove && IsPathEmpty(from, to, step);
 }
