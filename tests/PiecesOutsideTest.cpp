@@ -84,6 +84,22 @@ TEST(PiecesOutsideTest, BothSquaresOfAHitAreServedInOnePass) {
     EXPECT_EQ(Listed(), "b89 b90 r91 r99 b100");
 }
 
+/// A ring placement, a ring pass and a pass of the turn, each beside a piece that could come back.
+TEST(PiecesOutsideTest, NobodyComesBackWhereNoSquareChanged) {
+    const std::vector<std::tuple<const char*, int, int, int>> actions{
+        {"r10 r17", 1, 10, 0}, {"R20 r11 r2", 3, 20, 11}, {"r10 r17", 3, 0, 0}};
+    for (const auto& [pieces, entry, from, to] : actions) {
+        Place(pieces);
+        Pos.MoveCount = ToInt16(entry);
+        Pos.LastHit = {1, 1};
+        const Position before = Pos;
+        ApplyMoveQuiet(from, to);
+        EXPECT_TRUE(Pos.Board == before.Board) << Listed();
+        EXPECT_EQ(Pos.LastHit == before.LastHit, to == 0) << pieces;
+        EXPECT_EQ(Pos.SideToMove, Blue);
+    }
+}
+
 /// A carrier that entered the goal from the far end of its front stayed outside when the record was
 /// replayed: its origin is no neighbour of the square on which it comes back.
 TEST(PiecesOutsideTest, AGoalEntryComesBackFromEverySquareOfTheFront) {
