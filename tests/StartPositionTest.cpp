@@ -21,8 +21,10 @@ TEST(StartPositionTest, LayoutsFaceEachOther) {
         "r27 r28 r29 r30 b34 b39 b42 b43 b44 b45 b46 b47 "
         "r66 r67 r68 r69 r70 r71 r74 r79 b83 b84 b85 b86"};
     for (int layout = 0; layout < FreeSetupLayout; ++layout) {
+        RedStart = BlueStart = {};
         SelectStartLayout(layout);
         SetUpStartPosition();
+        EXPECT_EQ(std::pair(RedStart[0], BlueStart[0]), std::pair(Int16{4}, Int16{109}));
         EXPECT_EQ(Listed(), layouts[static_cast<std::size_t>(layout)]);
         // Piece i of one side stands opposite piece i of the other.
         EXPECT_TRUE(UpsideDown(Pos).RedSquare == Pos.RedSquare) << layout;
