@@ -29,6 +29,13 @@ TEST(StartPositionTest, LayoutsFaceEachOther) {
         // Piece i of one side stands opposite piece i of the other.
         EXPECT_TRUE(UpsideDown(Pos).RedSquare == Pos.RedSquare) << layout;
     }
+    RedStart[0] = 61;
+    for (const int other : {-1, LayoutCount, FreeSetupLayout}) {
+        EXPECT_EQ(LayoutPieces(other), 0);
+        SelectStartLayout(other);
+        EXPECT_EQ(Pos.RedCount, other == FreeSetupLayout ? 0 : MaxPieces);
+        EXPECT_EQ(RedStart[0], 61) << "the tables stay";
+    }
 }
 
 /// Start tables come from files that anybody can edit.
