@@ -25,8 +25,7 @@ constexpr std::array<std::string_view, 12> SystemFolders{"/boot", "/dev",  "/efi
 constexpr std::string_view UserMedia = "/run/media";
 
 bool IsBelow(std::string_view path, std::string_view folder) {
-    if (folder == Root || path == folder) return true;
-    return path.starts_with(folder) && path[folder.size()] == '/';
+    return path == folder || (path.starts_with(folder) && path[folder.size()] == '/');
 }
 
 bool IsUserVolume(std::string_view place, std::string_view type, std::string_view device) {

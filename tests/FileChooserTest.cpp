@@ -3,6 +3,7 @@
 #include "files/FolderContent.h"
 #include "tests/FilesTest.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <climits>
 #include <cstring>
@@ -103,6 +104,7 @@ TEST(FileChooserTest, FolderRowsLeadDownFromTheDrive) {
         EXPECT_EQ(path, row == 0 ? name : JoinPath(fs::path(path).parent_path().string(), name));
         ChooseFolder(row++);
         EXPECT_EQ(Chooser.Folder, fs::canonical(path));
+        EXPECT_EQ(std::ranges::count(Chooser.Folders, ".", &FolderRow::Name), 0);
         EXPECT_FALSE(ConfirmName(dialog.Folder));
     }
     EXPECT_EQ(below, "gone|sub|sub link|空 x|");
@@ -165,6 +167,7 @@ TEST(DrivesTest, VolumesThatAUserChoosesFrom) {
 52 28 259:2 /docker/1f/hosts /etc/hosts rw,relatime - ext4 /dev/nvme0n1p2 rw
 55 28 8:49 / /usr2\011\012\134 rw - ext4 /dev/sdd1
 58 43 8:1 / /home rw,relatime shared:47 - ext4 /dev/sda1 rw
+59 28 8:50 / /usr rw - ext4 /dev/sdf1 rw
 
 60 28 8:51 / /mnt/without-dash rw
 61 28 8:51 / /mnt/without-device rw - ext4
@@ -175,6 +178,7 @@ TEST(DrivesTest, VolumesThatAUserChoosesFrom) {
               "/|/b\\9xx\\0x1\\-12\\04\\|/home|/home/x|/mnt/a b|/run/media/棋|/srv|/usr2\t\n\\|");
     EXPECT_EQ(DrivesIn(""), Names{"/"});
     EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home/x/x"), "/home/x");
+    EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home"), "/home");
     EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home/xy"), "/home");
 }
 
