@@ -83,6 +83,10 @@ TEST_F(GameFileTest, WritesTheGameToTheByteAndAsksBefore) {
             EXPECT_EQ(BytesOf("old") + Desk.Told(), expected + "overwrite? ");
         }
     }
+    SetFileView(nullptr);
+    WriteBytes("old", "x");
+    SaveGameFile("old");
+    EXPECT_EQ(BytesOf("old"), "x") << "nobody could be asked";
 }
 
 /// The pieces placed by hand used to count among those of a game loaded over them: after its last
