@@ -17,26 +17,10 @@ namespace {
 
 // ---- The row being filled ----
 
-/// Entries beyond these are written before they are read.
-constexpr int ClearedEntries = 120;
-
-void Clear(int ply) {
-    CandidateCount[ply] = 0;
-    for (int n = 1; n <= ClearedEntries; ++n) {
-        MoveList[ply][n] = 0;
-        MoveScores[ply][n] = NoScore;
-    }
-}
-
-int AddEntry(int ply, MoveCode code) {
+void AddEntry(int ply, MoveCode code, double score) {
     const int n = ++CandidateCount[ply];
     MoveList[ply][n] = code;
-    return n;
-}
-
-void AddCandidate(int ply, int origin, int destination) {
-    const int n = AddEntry(ply, EncodeMove(origin, destination));
-    MoveScores[ply][n] = ScoreMove(origin, destination);
+    MoveScores[ply][n] = score;
 }
 
 // ---- Ring placements ----
@@ -63,7 +47,7 @@ void GeneratePlacements(int ply) {
     const auto list = std::ranges::find(PlacementLists, pieces, &PlacementList::Pieces);
     if (list == PlacementLists.end()) return;
     for (const Int16 square : isRed ? list->RedSquares : list->BlueSquares) {
-        if (square != NoSquare) AddEntry(ply, square);
+        if (square != NoSquare) AddEntry(ply, square, NoScore);
     }
 }
 
@@ -180,14 +164,15 @@ void AddPiece(int ply, Int16 piece, int square) {
                                              : std::span<const Place>(PlainPlaces);
     for (const Place& place : places) {
         const int target = TargetOf(piece, square, place);
-        if (target != NoSquare) AddCandidate(ply, square, target);
+        if (target == NoSquare) continue;
+        AddEntry(ply, EncodeMove(square, target), ScoreMove(square, target));
     }
 }
 
 }  // namespace
 
 void GenerateMoves(int ply) {
-    Clear(ply);
+    CandidateCount[ply] = 0;
     if (!BothRingsPlaced()) return GeneratePlacements(ply);
     const PieceSquares& squares = SquaresOf(Pos.SideToMove);
     const int count = PieceCount(Pos.SideToMove);

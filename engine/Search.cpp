@@ -121,7 +121,7 @@ void SearchRoot(Int16 depth) {
 Int16 SelectFromRoot() {
     double best = -10000000.0;
     int chosen = 0;
-    for (int n = 1; n <= CandidateCount[Root] && MoveList[Root][n] != 0; ++n) {
+    for (int n = 1; n <= CandidateCount[Root]; ++n) {
         const double value = MoveScores[Root][n];
         if (value < best) continue;
         const bool isBetter = value > best;
