@@ -12,19 +12,11 @@
 
 namespace brastel {
 
-Int16 SearchPly = 1;
-Int16 BeamWidth = 32;
-Int16 BeamShrink = 7;
 std::uint64_t SearchedPositions = 0;
-
-void ResetBeam() {
-    BeamWidth = 32;
-    BeamShrink = 7;
-}
 
 namespace {
 
-constexpr int Root = 1;
+constexpr int Root = SearchPly;
 
 struct RootCandidate {
     Candidate Which;
@@ -90,12 +82,12 @@ void ValueRow(RootRow row, int best) {
 
 void SearchRoot(Int16 depth) {
     SortCandidates(Root);
-    const int count = std::min<int>({CandidateCount[Root], BeamWidth, MaxBeam});
+    const int count = std::min<int>(CandidateCount[Root], BeamWidth);
     CandidateCount[Root] = ToInt16(count);
     // A winning candidate is sorted first, and all keep their immediate values.
     if (count == 0 || IsWin(MoveScores[Root][1])) return;
     if (!BothRingsPlaced()) return ValuePlacements(depth);
-    std::array<RootCandidate, MaxBeam> candidates;
+    std::array<RootCandidate, BeamWidth> candidates;
     for (int n = 1; n <= count; ++n) {
         const MoveCode code = MoveList[Root][n];
         candidates[static_cast<std::size_t>(n - 1)] = {
@@ -136,8 +128,7 @@ Int16 SelectFromRoot() {
 
 Int16 ChooseCandidate(Int16 depth) {
     SearchedPositions = 1;
-    SearchPly = Root;
-    GenerateMoves(SearchPly);
+    GenerateMoves(Root);
     if (depth > 1) SearchRoot(depth);
     return SelectFromRoot();
 }

@@ -5,15 +5,12 @@
 namespace brastel {
 
 /// The row of MoveList in which a search leaves its candidates: always 1.
-extern Int16 SearchPly;
+constexpr Int16 SearchPly = 1;
 
-/// Candidates kept at the root, at most 32, and the amount by which that falls to the next ply,
-/// itself falling by one from ply to ply. A search only reads them.
-extern Int16 BeamWidth;
-extern Int16 BeamShrink;
-
-/// The widths with which every new game begins.
-void ResetBeam();
+/// Candidates kept at the root, and the amount by which that falls to the next ply, itself falling
+/// by one from ply to ply.
+constexpr int BeamWidth = 32;
+constexpr int BeamShrink = 7;
 
 /// Positions whose candidates the last search valued.
 extern std::uint64_t SearchedPositions;

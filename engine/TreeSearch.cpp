@@ -10,8 +10,19 @@ namespace brastel {
 namespace {
 
 int Depth = 2;
-/// Candidates that each ply keeps, 1 to MaxBeam.
-Table<int, 0, MaxPly> Widths;
+
+/// Candidates that each ply keeps.
+constexpr auto Widths = [] {
+    Table<int, 0, MaxPly> widths;
+    int width = BeamWidth;
+    int shrink = BeamShrink;
+    for (int ply = 1; ply <= MaxPly; ++ply) {
+        widths[ply] = width;
+        width -= shrink--;
+    }
+    return widths;
+}();
+static_assert(BeamWidth <= MaxBeam);
 
 /// The value of a position whose side has no candidate, or none that is worth more.
 constexpr int Nothing = NoValue * UnitsPerPoint;
@@ -159,15 +170,7 @@ double RoundedValue(int ply, int value, double gain, double least) {
 
 }  // namespace
 
-void BeginTree(int depth) {
-    Depth = depth;
-    int width = BeamWidth;
-    int shrink = BeamShrink;
-    for (int ply = 1; ply <= MaxPly; ++ply) {
-        Widths[ply] = std::clamp(width, 1, MaxBeam);
-        width -= shrink--;
-    }
-}
+void BeginTree(int depth) { Depth = depth; }
 
 int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved) {
     const int gain = Discounted(candidate.Value);

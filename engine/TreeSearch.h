@@ -32,9 +32,9 @@ constexpr bool IsWin(double immediate) { return immediate > WinValue - 1; }
 
 // ---- Operations ----
 
-/// Begins a search to a depth of 2 to MaxPly, with the beam widths that are set. Needs both rings
-/// placed. Positions remembered from shallower searches of the same root serve it; those of another
-/// root must be forgotten first, since the side to move counts from there.
+/// Begins a search to a depth of 2 to MaxPly. Needs both rings placed. Positions remembered from
+/// shallower searches of the same root serve it; those of another root must be forgotten first,
+/// since the side to move counts from there.
 void BeginTree(int depth);
 
 /// The value of a candidate of the position at a ply, in units: exact between the bounds, at or

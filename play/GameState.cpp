@@ -4,7 +4,6 @@
 #include "core/WinTest.h"
 #include "engine/Candidates.h"
 #include "engine/Random.h"
-#include "engine/Search.h"
 #include "engine/Strengths.h"
 #include "play/GameView.h"
 
@@ -32,7 +31,6 @@ void ResetGame() {
     ShowStatus(BlankText);
     GameOver = False;
     ComputerSide = Blue;
-    ResetBeam();
     View->ShowBusy(false);
 }
 

@@ -148,7 +148,6 @@ inline std::string Differences(const Position& before, const PlainResult& plain,
     const bool isBest = std::ranges::count(real.Tied, MoveList[1][chosen]) > 0;
     std::string text;
     if (Pos != before) text += "the position has changed\n";
-    if (BeamWidth != 32 || BeamShrink != 7 || SearchPly != 1) text += "ply or beam have changed\n";
     if (isBest == real.Tied.empty()) text += "the choice is not the best\n";
     if (!sameRow || real.Best != plain.Best || real.Tied != plain.Tied) {
         text += Described(real) + "\ninstead of " + Described(plain) + '\n';
