@@ -1,3 +1,4 @@
+#include "engine/SearchMemory.h"
 #include "tests/SearchComparison.h"
 
 #include <gtest/gtest.h>
@@ -69,6 +70,37 @@ TEST(SearchTest, ForgetsEarlierSearches) {
         SearchedValues(position, Blue, level);
         EXPECT_EQ(SearchedValues(position, Red, level), values) << Described() << level;
     }
+}
+
+/// Everything that a value depends on must tell two positions apart: what the memory takes for the
+/// same position is answered with the value of another, which random positions hardly ever show.
+TEST(SearchTest, TellsRememberedPositionsApart) {
+    SelectStartLayout(FreeSetupLayout - 1);
+    SetUpStartPosition();
+    constexpr int ply = 3;
+    const auto isKnown = [](int at) { return RecallPosition(at).Depth == 7; };
+    const auto remember = [&] {
+        ForgetPositions();
+        RecallPosition(ply).Depth = 7;
+        ASSERT_TRUE(isKnown(ply));
+    };
+    std::vector<Int16*> numbers{&Pos.RingSquare[0], &Pos.RingSquare[1], &Pos.LastHit[0],
+                                &Pos.LastHit[1], &Pos.OutsideBalance};
+    for (int i = 1; i <= MaxPieces; ++i) {
+        numbers.insert(numbers.end(), {&Pos.RedSquare[i], &Pos.BlueSquare[i]});
+    }
+    for (std::size_t n = 0; n < numbers.size(); ++n) {
+        remember();
+        ++*numbers[n];
+        EXPECT_FALSE(isKnown(ply)) << n;
+        --*numbers[n];
+        EXPECT_TRUE(isKnown(ply)) << n;
+    }
+    remember();
+    EXPECT_FALSE(isKnown(ply + 1));
+    remember();
+    ForgetPositions();
+    EXPECT_FALSE(isKnown(ply));
 }
 
 /// Each equal candidate tosses a coin to replace the one before: the last is taken with probability
