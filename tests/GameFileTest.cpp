@@ -115,6 +115,10 @@ TEST_F(GameFileTest, RandomGamesComeBack) {
     }
 }
 
+std::ptrdiff_t OpenFiles() {
+    return std::distance(fs::directory_iterator("/proc/self/fd"), fs::directory_iterator());
+}
+
 /// Each path with the error of loading it and that of saving there, 0 where that is not tried.
 TEST_F(GameFileTest, FailuresLeaveTheGameAlone) {
     WriteBytes("file", "");
@@ -126,6 +130,7 @@ TEST_F(GameFileTest, FailuresLeaveTheGameAlone) {
         std::string(256, 'n') + " 2 2");
     LoadText(Example);
     Desk.Answer = true;
+    const auto openFiles = OpenFiles();
     for (auto [path, loading, saving] = std::tuple(std::string(), 0, 0);
          places >> path >> loading >> saving;) {
         SCOPED_TRACE(path);
@@ -137,6 +142,7 @@ TEST_F(GameFileTest, FailuresLeaveTheGameAlone) {
         EXPECT_EQ(Load(path) + LoadedFileName,
                   "close " + std::to_string(loading) + " open " + (Desk / "1"));
         EXPECT_EQ(WalkThrough(), 3);
+        EXPECT_EQ(OpenFiles(), openFiles);
     }
     BranchMark = 2;
     fs::remove("1");
