@@ -37,30 +37,9 @@ protected:
         for (; Pos.MoveCount > 1; StepBack()) EXPECT_EQ(FirstInconsistency(), "");
         return entries;
     }
-    int Roll(int sides) { return 1 + Below(Luck, sides); }
-    /// A random game of two people: the positions before and after each entry.
-    std::vector<Position> PlayGame(int layout) {
-        Start(layout);
-        std::vector<Position> played{Pos};
-        for (const Int16 side : {Red, Blue}) {
-            const int added = layout == FreeSetupLayout ? Roll(MaxPieces) : 0;
-            while (PieceCount(side) < added) Click(SquareAt(Roll(12), Roll(6)));
-            DoubleClick(side, Roll(std::min(PieceCount(side), 8 + added)));
-            if (side == Blue) Pos.RedPlaced = Pos.BluePlaced = 0;  // as in a loaded game
-            played.push_back(Pos);
-        }
-        GenerateMoves(1);
-        for (int left = Roll(30); left > 0; --left) {
-            const auto [from, to] = DrawAction(Luck);
-            if (from > 0) Drop(from, to);
-            played.push_back(Pos);
-        }
-        return played;
-    }
 
     FileDesk Desk;
     int FilesWritten = 0;
-    Dice Luck;
 };
 
 /// Both counts are 0 until a side has its ring, whatever stands on the board.
@@ -96,23 +75,6 @@ TEST_F(GameFileTest, GamesAreLoadedOverASetup) {
     LoadText(Example);
     Play("forward forward forward back");
     EXPECT_TRUE(ForwardVisible);
-}
-
-TEST_F(GameFileTest, RandomGamesComeBack) {
-    for (int game = 0; game < 150 * LayoutCount; ++game) {
-        SCOPED_TRACE(game);
-        const std::string name = std::to_string(game);
-        const std::vector<Position> played = PlayGame(game % LayoutCount);
-        SaveGameFile(name);
-        Start((game + 1) % LayoutCount);
-        ASSERT_EQ(Load(name), "close open ");
-        for (const Position& position : played) {
-            while (Pos.MoveCount < position.MoveCount && ForwardVisible) StepForward();
-            ASSERT_TRUE(Pos == position || position.BlueCount == 0) << Listed();
-        }
-        SaveGameFile("again " + name);
-        ASSERT_EQ(BytesOf("again " + name), BytesOf(name));
-    }
 }
 
 std::ptrdiff_t OpenFiles() {

@@ -38,18 +38,6 @@ TEST_P(SearchLevelTest, AgreesWithPlainSearch) {
 INSTANTIATE_TEST_SUITE_P(Levels, SearchLevelTest, testing::Range(1, int{Positions.size()} + 1),
                          testing::PrintToStringParamName());
 
-/// Most ring placements are worth the same, and odd numbers of pieces have none.
-TEST(SearchTest, RingPlacementsAgreeWithPlainSearch) {
-    Dice dice(1);
-    for (int layout = 0; layout < LayoutCount; ++layout) {
-        for (const int entries : {0, 1}) {
-            Wander(layout % FreeSetupLayout, entries, dice);
-            if (layout == FreeSetupLayout) Pos.RedCount = Pos.BlueCount = 1;
-            for (int level = 1; level <= 6; ++level) CompareWithPlainSearch(level);
-        }
-    }
-}
-
 /// The values in row 1 after a search of the position, with either side to move.
 std::vector<double> SearchedValues(const Position& position, Int16 side, int level) {
     Pos = position;
