@@ -159,7 +159,7 @@ TEST(DrivesTest, VolumesThatAUserChoosesFrom) {
 41 28 259:1 / /boot/efi rw,relatime shared:45 - vfat /dev/nvme0n1p1 rw
 43 28 8:1 / /home rw,relatime shared:47 - ext4 /dev/sda1 rw
 44 43 0:40 / /home/x rw,nosuid shared:60 - fuse.sshfs ann@host:/data rw
-46 28 8:17 / /mnt/a\040b rw,nosuid shared:50 master:4 - fuseblk /dev/sdb1 rw
+46 28 8:17 / /mnt/a\0402 rw,nosuid shared:50 master:4 - fuseblk /dev/sdb1 rw
 47 28 0:44 / /srv rw,relatime shared:52 - nfs4 server:/games rw
 48 28 0:45 / /net rw,relatime shared:54 - autofs /etc/auto.net rw
 49 28 8:33 / /run/media/棋 rw,nosuid - exfat /dev/sdc1 rw
@@ -175,7 +175,7 @@ TEST(DrivesTest, VolumesThatAUserChoosesFrom) {
     std::string drives;
     for (const std::string& drive : DrivesIn(table)) drives += drive + "|";
     EXPECT_EQ(drives,
-              "/|/b\\9xx\\0x1\\-12\\04\\|/home|/home/x|/mnt/a b|/run/media/棋|/srv|/usr2\t\n\\|");
+              "/|/b\\9xx\\0x1\\-12\\04\\|/home|/home/x|/mnt/a 2|/run/media/棋|/srv|/usr2\t\n\\|");
     EXPECT_EQ(DrivesIn(""), Names{"/"});
     EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home/x/x"), "/home/x");
     EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home"), "/home");

@@ -77,12 +77,14 @@ TEST(SearchTest, TellsRememberedPositionsApart) {
     for (int i = 1; i <= MaxPieces; ++i) {
         numbers.insert(numbers.end(), {&Pos.RedSquare[i], &Pos.BlueSquare[i]});
     }
-    for (std::size_t n = 0; n < numbers.size(); ++n) {
-        remember();
-        ++*numbers[n];
-        EXPECT_FALSE(isKnown(ply)) << n;
-        --*numbers[n];
-        EXPECT_TRUE(isKnown(ply)) << n;
+    for (Int16* const number : numbers) {
+        const Int16 value = *number;
+        for (int bit = 1; bit <= LastSquare; bit *= 2) {
+            remember();
+            *number = ToInt16(value ^ bit);
+            EXPECT_FALSE(isKnown(ply)) << value << ' ' << *number;
+            *number = value;
+        }
     }
     remember();
     EXPECT_FALSE(isKnown(ply + 1));
