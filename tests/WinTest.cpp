@@ -27,7 +27,7 @@ const std::vector<std::pair<const char*, std::vector<WinCase>>> Groups{
       {"R12 B11 b20", Red, {}}}},
     {"whom it has just pushed aside may not push back",
      {{"R12 b11", Red, {1, 1}}, {"R12 b11", Empty, {2, 1}}, {"R12 b11", Empty, {1, 2}},
-      {"R12 b20", Empty, {1, 1}}}}};
+      {"R12 b20", Empty, {1, 1}}, {"R12 b60 b11", Empty, {1, 1}}}}};
 // clang-format on
 
 void ExpectWinner(const WinCase& c) {
