@@ -5,7 +5,6 @@
 
 #include <gtest/gtest.h>
 
-#include <tuple>
 #include <vector>
 
 namespace brastel {
@@ -53,43 +52,20 @@ TEST(StartPositionTest, DamagedTablesLeavePiecesOffTheBoard) {
     EXPECT_EQ(FirstInconsistency(), "");
 }
 
-/// Each number is taken to both ends of its range and one beyond. A count of placed pieces that is
-/// too large was once only found after the squares behind the table had been read.
-TEST(ConsistencyTest, NumbersStayInRange) {
+/// The first piece of a square counts, should two stand there.
+TEST(StartPositionTest, PiecesAreFoundBySquareAndByPoint) {
     Place("r68 r61 b44");
-    const std::vector<std::tuple<Int16*, int, int>> numbers{
-        {&Pos.RingSquare[0], 1, 112},    {&Pos.RingSquare[1], 1, 112}, {&Pos.LastHit[0], 0, 12},
-        {&Pos.LastHit[1], 0, 12},        {&Pos.RedPlaced, 0, 12},      {&Pos.BluePlaced, 0, 12},
-        {&Pos.OutsideBalance, -300, 300}};
-    for (const auto& [number, first, last] : numbers) {
-        const Position sound = Pos;
-        for (const int value : {first - 1, first, last, last + 1}) {
-            *number = ToInt16(value);
-            EXPECT_EQ(PositionIsConsistent(), value >= first && value <= last) << value;
-        }
-        Pos = sound;
-    }
-    Pos.MoveCount = 0;
-    EXPECT_NE(FirstInconsistency(), "");
-    Pos.MoveCount = 1;
-    Pos.SideToMove = Blue;
-    EXPECT_EQ(FirstInconsistency(), "");
-    Pos.SideToMove = Empty;
-    EXPECT_NE(FirstInconsistency(), "");
-}
-
-/// Red's second piece is sent elsewhere, to a friend's, an opponent's or no square; its cell
-/// follows or does not.
-TEST(ConsistencyTest, CellsAndPiecesAgree) {
-    const std::vector<std::tuple<int, bool, bool>> strays{
-        {60, false, false}, {68, true, false},      {44, true, false},       {113, true, false},
-        {200, true, false}, {NoSquare, true, true}, {NoSquare, false, false}};
-    for (const auto& [square, isCellCleared, isSound] : strays) {
-        Place("r68 r61 b44");
-        Pos.RedSquare[2] = ToInt16(square);
-        if (isCellCleared) Pos.Board[61] = Empty;
-        EXPECT_EQ(PositionIsConsistent(), isSound) << square;
-    }
+    Pos.RedSquare[2] = 68;
+    EXPECT_EQ(FindRedAt(68), 1);
+    EXPECT_EQ(FindBlueAt(44), 1);
+    EXPECT_EQ(FindRedAt(44) + FindBlueAt(68) + FindRedAt(60), 0);
+    EXPECT_TRUE(IsPieceAt(SquareLeft(44), SquareTop(44)));
+    EXPECT_FALSE(IsPieceAt(SquareLeft(44) + 1, SquareTop(44)));
+    EXPECT_FALSE(IsPieceAt(SquareLeft(44), SquareTop(44) - 1));
+    EXPECT_FALSE(IsPieceAt(SquareLeft(60), SquareTop(60)));
+    // Right of the last column the next row's first square would be computed.
+    Pos.BlueSquare[1] = 97;
+    EXPECT_FALSE(IsPieceAt(BoardLeft + BoardWidth, SquareTop(96)));
 }
 
 }  // namespace
