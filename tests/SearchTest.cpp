@@ -65,6 +65,7 @@ TEST(SearchTest, ForgetsEarlierSearches) {
 TEST(SearchTest, TellsRememberedPositionsApart) {
     SelectStartLayout(FreeSetupLayout - 1);
     SetUpStartPosition();
+    Pos.OutsideBalance = -1;
     constexpr int ply = 3;
     const auto isKnown = [](int at) { return RecallPosition(at).Depth == 7; };
     const auto remember = [&] {
