@@ -89,8 +89,7 @@ bool LeavesCorner(const Move& move) {
     const int destination = move.Destination;
     const bool atBottom = (origin == 98 || origin == 103) && Pos.Board[origin] == Blue;
     const bool atTop = (origin == 10 || origin == 15) && Pos.Board[origin] == Red;
-    return (atBottom && destination > 89 && destination < 96) ||
-           (atTop && destination > 17 && destination < 24);
+    return (atBottom && Row(destination) == 11) || (atTop && Row(destination) == 2);
 }
 
 int CarrierMove(const Move& move) {
