@@ -32,10 +32,7 @@ using RootRow = std::span<RootCandidate>;
 /// so only the number of plies counts.
 void ValuePlacements(int depth) {
     double value = NoScore;
-    for (int ply = depth - 1; ply >= Root; --ply) {
-        value = NoScore / Discount - value;
-        if (ply > Root) value = std::max(NoScore, value);
-    }
+    for (int ply = depth - 1; ply >= Root; --ply) value = NoScore / Discount - value;
     for (int n = 1; n <= CandidateCount[Root]; ++n) MoveScores[Root][n] = value;
 }
 
