@@ -105,6 +105,7 @@ TEST(FileChooserTest, FolderRowsLeadDownFromTheDrive) {
         ChooseFolder(row++);
         EXPECT_EQ(Chooser.Folder, fs::canonical(path));
         EXPECT_EQ(std::ranges::count(Chooser.Folders, ".", &FolderRow::Name), 0);
+        EXPECT_EQ(std::ranges::count(Chooser.Folders, 0, &FolderRow::Depth), 1);
         EXPECT_FALSE(ConfirmName(dialog.Folder));
     }
     EXPECT_EQ(below, "gone|sub|sub link|空 x|");
