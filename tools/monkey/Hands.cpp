@@ -1,6 +1,6 @@
-#include "tests/Hands.h"
+#include "tools/monkey/Hands.h"
 
-#include "tests/EventLog.h"
+#include "tools/monkey/EventLog.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>

@@ -1,9 +1,9 @@
 /// Plays very many games and checks everything after every action.
 
 #include "core/StartPosition.h"
-#include "tools/Inconsistency.h"
-#include "tools/SoakGame.h"
-#include "tools/SoakTally.h"
+#include "tools/soak/Inconsistency.h"
+#include "tools/soak/SoakGame.h"
+#include "tools/soak/Tally.h"
 
 #include <array>
 #include <charconv>

@@ -1,4 +1,4 @@
-#include "tools/SoakTally.h"
+#include "tools/soak/Tally.h"
 
 #include <algorithm>
 #include <array>

@@ -1,4 +1,4 @@
-#include "tests/ScratchFolder.h"
+#include "tools/monkey/ScratchFolder.h"
 
 #include <cstdio>
 #include <cstdlib>

@@ -1,12 +1,12 @@
-#include "tools/RuleComparison.h"
+#include "tools/soak/RuleComparison.h"
 
 #include "core/Opening.h"
 #include "core/PlainMove.h"
 #include "core/StartPosition.h"
 #include "core/WinTest.h"
 #include "tests/RandomPlay.h"
-#include "tools/Inconsistency.h"
-#include "tools/SoakTally.h"
+#include "tools/soak/Inconsistency.h"
+#include "tools/soak/Tally.h"
 
 #include <bitset>
 #include <cstdlib>

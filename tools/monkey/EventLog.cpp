@@ -1,4 +1,4 @@
-#include "tests/EventLog.h"
+#include "tools/monkey/EventLog.h"
 
 #include <algorithm>
 #include <array>

@@ -5,10 +5,10 @@
 #include "files/FileChooser.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
-#include "tests/EventLog.h"
-#include "tests/Hands.h"
+#include "tools/monkey/EventLog.h"
+#include "tools/monkey/Hands.h"
 #include "tests/RandomPlay.h"
-#include "tests/ScratchFolder.h"
+#include "tools/monkey/ScratchFolder.h"
 #include "tests/ShownPosition.h"
 #include "ui/MainWindow.h"
 

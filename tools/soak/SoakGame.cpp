@@ -1,4 +1,4 @@
-#include "tools/SoakGame.h"
+#include "tools/soak/SoakGame.h"
 
 #include "core/Hit.h"
 #include "core/Opening.h"
@@ -10,11 +10,11 @@
 #include "play/GameView.h"
 #include "play/Hint.h"
 #include "play/HumanAction.h"
-#include "tools/GameLine.h"
-#include "tools/Inconsistency.h"
-#include "tools/RuleComparison.h"
-#include "tools/Snapshot.h"
-#include "tools/SoakTally.h"
+#include "tools/soak/GameLine.h"
+#include "tools/soak/Inconsistency.h"
+#include "tools/soak/RuleComparison.h"
+#include "tools/soak/Snapshot.h"
+#include "tools/soak/Tally.h"
 
 #include <sstream>
 

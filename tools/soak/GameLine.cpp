@@ -1,13 +1,13 @@
-#include "tools/GameLine.h"
+#include "tools/soak/GameLine.h"
 
 #include "core/Consistency.h"
 #include "core/PiecesOutside.h"
 #include "play/DisplayedMove.h"
 #include "play/HumanAction.h"
-#include "tools/Inconsistency.h"
-#include "tools/RuleComparison.h"
-#include "tools/Snapshot.h"
-#include "tools/SoakTally.h"
+#include "tools/soak/Inconsistency.h"
+#include "tools/soak/RuleComparison.h"
+#include "tools/soak/Snapshot.h"
+#include "tools/soak/Tally.h"
 
 namespace brastel {
 
