@@ -4,6 +4,7 @@
 #include "core/PiecesOutside.h"
 #include "play/DisplayedMove.h"
 #include "play/HumanAction.h"
+#include "tests/RandomPlay.h"
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/RuleComparison.h"
 #include "tools/soak/Snapshot.h"
@@ -13,24 +14,27 @@ namespace brastel {
 
 namespace {
 
+bool IsByHand = false;
+
+template <typename Operation>
+Position PositionAfter(Operation operation) {
+    const Position before = Pos;
+    operation();
+    return std::exchange(Pos, before);
+}
+
 /// True if a piece waits outside that the full pass would bring back, which only one that was
 /// placed there by hand can do.
-bool HasLateReturns() {
-    const Position before = Pos;
-    ReturnOutsidePieces();
-    const bool changed = Pos != before;
-    Pos = before;
-    return changed;
-}
+bool HasLateReturns() { return PositionAfter(ReturnOutsidePieces) != Pos; }
 
 void CountKind(const Action& entry) {
     const auto [from, to] = entry;
-    if (!BothRingsPlaced()) return Count(Event::Placement);
-    if (from == NoSquare) return Count(Event::NullMove);
-    if (Pos.Board[to] == Pos.SideToMove) return Count(Event::RingPass);
-    if (Pos.Board[to] == Empty) return Count(InField(to) ? Event::Move : Event::GoalEntry);
-    Count(Event::Hit);
-    if (IsRingSquare(to)) Count(Event::Capture);
+    if (!BothRingsPlaced()) return Count(Placements);
+    if (from == NoSquare) return Count(NullMoves);
+    if (Pos.Board[to] == Pos.SideToMove) return Count(RingPasses);
+    if (Pos.Board[to] == Empty) return Count(InField(to) ? Moves : GoalEntries);
+    Count(Hits);
+    if (IsRingSquare(to)) Count(Captures);
 }
 
 /// Only a side without a candidate passes, or one that chose a goal entry that is barred.
@@ -46,35 +50,25 @@ void CheckPassing(const Action& entry) {
 
 // ---- Three ways to play an entry, from the same position ----
 
-Position PlayedQuietly(const Action& entry) {
-    const Position before = Pos;
+void PlayQuietly(const Action& entry) {
     ApplyMoveQuiet(entry.first, entry.second);
     CountEntry();
     RequireConsistent();
-    return std::exchange(Pos, before);
 }
 
-Position PlayedInView(const Action& entry) {
-    const Position before = Pos;
+void PlayInView(const Action& entry) {
     ApplyMoveShown(entry.first, entry.second);
     CountEntry();
-    return std::exchange(Pos, before);
 }
 
 /// Where the rules differ, people's gesture is refused.
-Position PlayedByGesture(const Action& entry) {
+void PlayByGesture(const Action& entry) {
     const auto [from, to] = entry;
-    const Position before = Pos;
     const Piece actor = PieceOn(from);
     Level = TwoPlayerLevel;
-    if (!BothRingsPlaced()) {
-        DoubleClickPiece(actor);
-    } else if (const Piece target = PieceOn(to)) {
-        DropOnPiece(actor, target);
-    } else {
-        DropOnBoard(actor, SquareLeft(to), SquareTop(to) + CellSize - 1);
-    }
-    return std::exchange(Pos, before);
+    if (!BothRingsPlaced()) return DoubleClickPiece(actor);
+    if (const Piece target = PieceOn(to)) return DropOnPiece(actor, target);
+    DropOnBoard(actor, SquareLeft(to), SquareTop(to) + CellSize - 1);
 }
 
 /// `expected` is where the entry leads if people may play it.
@@ -82,42 +76,38 @@ void CheckGesture(const Action& entry, const Position& expected) {
     const Piece actor = PieceOn(entry.first);
     const bool accepted =
         BothRingsPlaced() ? IsAccepted(entry.first, entry.second) : AcceptsRing(actor);
-    if (actor) {
-        Require(PlayedByGesture(entry) == (accepted ? expected : Pos),
-                "a drop leads elsewhere than the move of the computer");
+    if (!actor) return;
+    Require(PositionAfter([&] { PlayByGesture(entry); }) == (accepted ? expected : Pos),
+            "a drop leads elsewhere than the move of the computer");
+}
+
+/// Where a hit pushes the piece: to the second square beyond if that is empty, or to the first.
+int LandingSquare(const Action& hit) {
+    const auto [from, to] = hit;
+    const auto sign = [](int number) { return (number > 0) - (number < 0); };
+    const int across = sign(Column(to) - Column(from));
+    const int down = sign(Row(to) - Row(from));
+    const int second = SquareAt(Row(to) + 2 * down, Column(to) + 2 * across);
+    const bool isFree = second != NoSquare && Pos.Board[second] == Empty;
+    return isFree ? second : SquareAt(Row(to) + down, Column(to) + across);
+}
+
+/// Every action of play but a null move makes a last hit or forgets it.
+void CheckHit(const Action& entry, const Position& after) {
+    const auto [from, to] = entry;
+    if (!BothRingsPlaced() || from == NoSquare) {
+        return Require(after.LastHit == Pos.LastHit, "the last hit was forgotten");
     }
+    if (Pos.Board[to] != -Pos.SideToMove) {
+        return Require(after.LastHit == decltype(after.LastHit){}, "the last hit was kept");
+    }
+    const Piece hit = PieceOn(to);
+    Require(after.LastHit == std::array{PieceOn(from).Index, hit.Index}, "wrong last hit");
+    const PieceSquares& squares = hit.Side == Red ? after.RedSquare : after.BlueSquare;
+    Require(squares[hit.Index] == LandingSquare(entry), "a piece was pushed to a wrong square");
 }
 
 // ---- The position after an entry ----
-
-/// What an entry leaves behind: who hit whom last, and the square of the piece hit now, if any.
-struct HitOutcome {
-    std::array<Int16, 2> LastHit{};
-    int Landing = NoSquare;
-};
-
-constexpr int Sign(int number) { return (number > 0) - (number < 0); }
-
-/// Asked before the entry is played.
-HitOutcome ExpectedOutcome(const Action& entry) {
-    const auto [from, to] = entry;
-    if (!BothRingsPlaced() || from == NoSquare) return {Pos.LastHit};
-    if (Pos.Board[to] != -Pos.SideToMove) return {};
-    const int across = Sign(Column(to) - Column(from));
-    const int down = Sign(Row(to) - Row(from));
-    const int near = SquareAt(Row(to) + down, Column(to) + across);
-    const int far = SquareAt(Row(to) + 2 * down, Column(to) + 2 * across);
-    const bool goesFar = far != NoSquare && Pos.Board[far] == Empty;
-    return {{PieceOn(from).Index, PieceOn(to).Index}, goesFar ? far : near};
-}
-
-/// The side hit is now to move.
-void CheckOutcome(const HitOutcome& expected) {
-    Require(Pos.LastHit == expected.LastHit, "the last hit is not remembered or not forgotten");
-    Require(expected.Landing == NoSquare ||
-                SquareOf({Pos.SideToMove, Pos.LastHit[1]}) == expected.Landing,
-            "a piece was pushed to a wrong square");
-}
 
 /// Red pieces outside less Blue ones, counted on the board.
 int CountOutside(const Position& position) {
@@ -148,12 +138,43 @@ void CheckRings(const Position& before) {
     }
 }
 
-bool HasCameBack(const Position& before, int side) {
-    const PieceSquares& squares = side == Red ? before.RedSquare : before.BlueSquare;
-    for (int i = 1; i <= PieceCount(side); ++i) {
-        if (!InField(squares[i]) && InField(SquaresOf(side)[i])) return true;
+bool HasSomeoneReturned(const Position& before) {
+    for (int s = FirstSquare; s <= LastSquare; ++s) {
+        if (!InField(s) && before.Board[s] != Empty && Pos.Board[s] == Empty) return true;
     }
     return false;
+}
+
+void CheckPosition(const Position& before, const Action& entry) {
+    RequireConsistent();
+    Require(Pos.SideToMove == -before.SideToMove, "the turn did not pass");
+    Require(Pos.RedCount == before.RedCount && Pos.BlueCount == before.BlueCount,
+            "the number of pieces changed");
+    CheckRings(before);
+    CheckBalance(before, entry);
+    Require(before.MoveCount < 3 || !HasLateReturns(), "a piece waits that could come back");
+    if (HasSomeoneReturned(before)) Count(Returns);
+    CompareRules(IsByHand);
+}
+
+void FollowEntry(const Action& entry, bool byPerson) {
+    const Position before = Line.back();
+    Pos = before;
+    CountKind(entry);
+    CheckPassing(entry);
+    const Position quiet = PositionAfter([&] { PlayQuietly(entry); });
+    const Position shown = PositionAfter([&] { PlayInView(entry); });
+    CheckHit(entry, shown);
+    if (quiet != shown) {
+        Require(HasLateReturns(), "a quiet move leads elsewhere than a shown one");
+        Count(LateReturns);
+    }
+    // A double-click brings nobody back.
+    const Position& people = BothRingsPlaced() ? shown : quiet;
+    if (!byPerson) CheckGesture(entry, people);
+    Pos = byPerson ? people : shown;
+    CheckPosition(before, entry);
+    Line.push_back(Pos);
 }
 
 }  // namespace
@@ -174,74 +195,43 @@ void LoadPlayedGame() {
     TakeLoadedGame();
 }
 
-void GameLine::Begin(bool byHand) {
-    ByHand = byHand;
-    Exact = !HasLateReturns();
+void BeginLine(bool byHand) {
+    IsByHand = byHand;
+    LineIsExact = !HasLateReturns();
+    const Position played = Pos;
     const Snapshot now;
     SetUpStartPosition();
-    Positions.assign(1, Pos);
-    for (int k = 1; k < now.Where.MoveCount; ++k) {
-        Pos = PlayedQuietly({PlayedFrom[k], PlayedTo[k]});
-        Positions.push_back(Pos);
+    Line.assign(1, Pos);
+    for (int k = 1; k < played.MoveCount; ++k) {
+        PlayQuietly({PlayedFrom[k], PlayedTo[k]});
+        Line.push_back(Pos);
     }
-    Require(Pos == now.Where, "the free setup differs from the game that begins with it");
+    Require(Pos == played, "the free setup differs from the game that begins with it");
     now.Restore();
-    CompareRules(ByHand);
+    CompareRules(byHand);
 }
 
-void GameLine::Follow(int first, bool byPerson) {
-    const Snapshot played;
-    for (int k = first; k < played.Where.MoveCount; ++k) {
-        if (k > first) Count(Event::Answer);
-        FollowEntry({played.From[k], played.To[k]}, byPerson && k == first);
+void FollowLine(int first, bool byPerson) {
+    const Position played = Pos;
+    const Snapshot now;
+    for (int k = first; k < played.MoveCount; ++k) {
+        if (k > first) Count(Answers);
+        FollowEntry({PlayedFrom[k], PlayedTo[k]}, byPerson && k == first);
+        now.Restore();
     }
-    Require(played.Where == Positions.back(), "the game stands elsewhere than its entries lead");
-    played.Restore();
+    Require(played == Line.back(), "the game stands elsewhere than its entries lead");
 }
 
-void GameLine::FollowEntry(const Action& entry, bool byPerson) {
-    const Position before = Positions.back();
-    Pos = before;
-    CountKind(entry);
-    CheckPassing(entry);
-    const HitOutcome outcome = ExpectedOutcome(entry);
-    const Position quiet = PlayedQuietly(entry);
-    const Position shown = PlayedInView(entry);
-    if (quiet != shown) {
-        Require(HasLateReturns(), "a quiet move leads elsewhere than a shown one");
-        Count(Event::LateReturn);
-    }
-    // A double-click brings nobody back.
-    const Position& people = BothRingsPlaced() ? shown : quiet;
-    if (!byPerson) CheckGesture(entry, people);
-    Pos = byPerson ? people : shown;
-    CheckOutcome(outcome);
-    CheckPosition(before, entry);
-    Positions.push_back(Pos);
-}
-
-void GameLine::CheckPosition(const Position& before, const Action& entry) const {
-    RequireConsistent();
-    Require(Pos.SideToMove == -before.SideToMove, "the turn did not pass");
-    Require(Pos.RedCount == before.RedCount && Pos.BlueCount == before.BlueCount,
-            "the number of pieces changed");
-    CheckRings(before);
-    CheckBalance(before, entry);
-    Require(before.MoveCount < 3 || !HasLateReturns(), "a piece waits that could come back");
-    if (HasCameBack(before, Red) || HasCameBack(before, Blue)) Count(Event::Return);
-    CompareRules(ByHand);
-}
-
-void GameLine::CheckSteps() const {
+void CheckSteps() {
     const Snapshot now;
     LoadPlayedGame();
     StepBack();
     RequireConsistent();
-    if (Exact) {
-        Require(Pos == Positions[Positions.size() - 2], "the record leads elsewhere than the game");
+    if (LineIsExact) {
+        Require(Pos == Line[Line.size() - 2], "the record leads elsewhere than the game");
         Require(ForwardVisible, "the way forward is not shown");
         StepForward();
-        Require(Pos == Positions.back(), "a step forward leads elsewhere than the game");
+        Require(Pos == Line.back(), "a step forward leads elsewhere than the game");
     }
     now.Restore();
 }

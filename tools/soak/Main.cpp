@@ -1,16 +1,18 @@
 /// Plays very many games and checks everything after every action.
 
 #include "core/StartPosition.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "tests/Positions.h"
+#include "tools/ReadNumber.h"
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/SoakGame.h"
 #include "tools/soak/Tally.h"
 
+#include <algorithm>
 #include <array>
-#include <charconv>
-#include <chrono>
-#include <cstdint>
+#include <cinttypes>
 #include <cstdio>
-#include <string_view>
 
 namespace {
 
@@ -38,6 +40,8 @@ constexpr int FoundFault = 1;
 constexpr int BadArguments = 2;
 
 constexpr int AllLayouts = -1;
+constexpr std::int64_t GamesBetweenReports = 10000;
+constexpr std::int64_t EnoughGames = 2000;
 
 struct Options {
     std::int64_t Games = 10000;
@@ -62,27 +66,20 @@ constexpr std::array<Option, 4> KnownOptions{{
     {"--layout", &Options::Layout, 0, LayoutCount - 1},
 }};
 
-bool ReadValue(const Option& option, std::string_view text, Options& options) {
-    std::int64_t value = 0;
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), value);
-    if (error != std::errc() || end != text.data() + text.size()) return false;
-    options.*option.Value = value;
-    return value >= option.Least && value <= option.Most;
+bool ReadOption(std::string_view name, std::string_view text, Options& options) {
+    const auto* option = std::ranges::find(KnownOptions, name, &Option::Name);
+    if (option == KnownOptions.end()) return false;
+    const auto number = ReadNumber(text, option->Least, option->Most);
+    if (number) options.*option->Value = *number;
+    return number.has_value();
 }
 
 bool ReadOptions(int count, char** texts, Options& options) {
     for (int i = 1; i < count; i += 2) {
-        const auto* option = std::ranges::find(KnownOptions, texts[i], &Option::Name);
-        if (option == KnownOptions.end()) {
-            std::fprintf(stderr, "brastel-soak: unknown option %s; see --help\n", texts[i]);
-            return false;
-        }
-        if (i + 1 == count || !ReadValue(*option, texts[i + 1], options)) {
-            std::fprintf(stderr, "brastel-soak: %s needs a number from %lld to %lld\n", texts[i],
-                         static_cast<long long>(option->Least),
-                         static_cast<long long>(option->Most));
-            return false;
-        }
+        const char* value = i + 1 < count ? texts[i + 1] : "";
+        if (ReadOption(texts[i], value, options)) continue;
+        std::fprintf(stderr, "brastel-soak: cannot use \"%s %s\"; see --help\n", texts[i], value);
+        return false;
     }
     return true;
 }
@@ -96,56 +93,43 @@ std::uint32_t SeedOf(std::int64_t seed, std::int64_t game) {
     return static_cast<std::uint32_t>(mixed >> 32);
 }
 
-void ReportFault(const Inconsistency& fault, const Options& options, std::int64_t game,
-                 int layout) {
-    std::printf("INCONSISTENT: %s\n%sAlone: brastel-soak --seed %lld --first %lld --games 1",
-                fault.What.c_str(), DescribedGame().c_str(), static_cast<long long>(options.Seed),
-                static_cast<long long>(game));
-    if (options.Layout != AllLayouts) std::printf(" --layout %d", layout);
+/// The game's entries and its position, and how to play it alone.
+void ReportFault(const Inconsistency& fault, const Options& options, std::int64_t game) {
+    std::printf("INCONSISTENT: %s\nentries:", fault.What.c_str());
+    for (int k = 1; k < Pos.MoveCount && k <= MaxEntries; ++k) {
+        std::printf(" %d-%d", PlayedFrom[k], PlayedTo[k]);
+    }
+    std::printf("\nposition: %s, level %d\n", Listed().c_str(), Level);
+    std::printf("Alone: brastel-soak --seed %" PRId64 " --first %" PRId64 " --games 1",
+                options.Seed, game);
+    if (options.Layout != AllLayouts) std::printf(" --layout %" PRId64, options.Layout);
     std::printf("\n");
 }
 
-using Clock = std::chrono::steady_clock;
-
-/// A line every ten seconds.
-void ReportProgress(std::int64_t played, const Options& options, Clock::time_point start) {
-    static auto next = start;
-    const auto now = Clock::now();
-    if (now < next + std::chrono::seconds(10)) return;
-    next = now;
-    const double seconds = std::chrono::duration<double>(now - start).count();
-    std::fprintf(stderr, "%lld of %lld games, %.0f s\n", static_cast<long long>(played),
-                 static_cast<long long>(options.Games), seconds);
-}
-
 bool PlayAll(const Options& options) {
-    const auto start = Clock::now();
     for (std::int64_t played = 0; played < options.Games; ++played) {
         const std::int64_t game = options.First + played;
-        const int layout =
-            static_cast<int>(options.Layout == AllLayouts ? game % LayoutCount : options.Layout);
+        const auto layout = options.Layout == AllLayouts ? game % LayoutCount : options.Layout;
         try {
-            PlaySoakGame(SeedOf(options.Seed, game), layout);
+            PlaySoakGame(SeedOf(options.Seed, game), static_cast<int>(layout));
         } catch (const Inconsistency& fault) {
-            ReportFault(fault, options, game, layout);
+            ReportFault(fault, options, game);
             return false;
         }
-        if (played % 64 == 0) ReportProgress(played, options, start);
+        if ((played + 1) % GamesBetweenReports == 0) {
+            std::fprintf(stderr, "%" PRId64 " of %" PRId64 " games\n", played + 1, options.Games);
+        }
     }
-    const double seconds = std::chrono::duration<double>(Clock::now() - start).count();
-    std::fprintf(stderr, "%.1f s, %.3f ms a game\n", seconds,
-                 seconds * 1000 / static_cast<double>(options.Games));
     return true;
 }
-
-constexpr std::int64_t EnoughGames = 2000;
 
 /// A long run that never saw some kind of event has proved nothing about it.
 bool HasSeenAll(const Options& options) {
     if (options.Layout != AllLayouts || options.Games < EnoughGames) return true;
-    const std::string missing = FirstMissing();
-    if (!missing.empty()) std::printf("There were no %s.\n", missing.c_str());
-    return missing.empty();
+    const auto missing = std::ranges::find(Tallies, 0, &Tally::Times);
+    if (missing == Tallies.end()) return true;
+    std::printf("There were no %s.\n", (*missing)->Name);
+    return false;
 }
 
 }  // namespace
@@ -158,7 +142,8 @@ int main(int count, char** texts) {
     Options options;
     if (!ReadOptions(count, texts, options)) return BadArguments;
     if (!PlayAll(options)) return FoundFault;
-    std::printf("%12lld  games\n%s", static_cast<long long>(options.Games), TallyLines().c_str());
+    std::printf("%12" PRId64 "  games\n", options.Games);
+    for (const Tally* tally : Tallies) std::printf("%12lld  %s\n", tally->Times, tally->Name);
     if (!HasSeenAll(options)) return FoundFault;
     std::puts("No inconsistency.");
     return 0;

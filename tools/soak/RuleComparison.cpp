@@ -2,10 +2,10 @@
 
 #include "core/Opening.h"
 #include "core/PlainMove.h"
-#include "core/StartPosition.h"
 #include "core/WinTest.h"
 #include "tests/RandomPlay.h"
 #include "tools/soak/Inconsistency.h"
+#include "tools/soak/Snapshot.h"
 #include "tools/soak/Tally.h"
 
 #include <bitset>
@@ -46,7 +46,7 @@ bool IsPassFromOutside(const Action& action) {
 }
 
 struct Difference {
-    Event Kind;
+    Tally* Kind;
     /// Offered and not accepted, or accepted and not offered.
     bool IsOffered;
     bool (*Applies)(const Action&);
@@ -54,9 +54,9 @@ struct Difference {
 
 /// All of them once the rings are placed; Candidates.h says why.
 constexpr std::array<Difference, 3> CarrierDifferences{{
-    {Event::GoalEntryOffered, true, IsGoalEntry},
-    {Event::LongStepAccepted, false, IsLongStep},
-    {Event::PassFromOutsideAccepted, false, IsPassFromOutside},
+    {&GoalEntriesOffered, true, IsGoalEntry},
+    {&LongStepsAccepted, false, IsLongStep},
+    {&PassesFromOutsideAccepted, false, IsPassFromOutside},
 }};
 
 /// The difference that is known for an action, or null.
@@ -83,24 +83,23 @@ Table<Destinations, NoSquare, LastSquare> ListOffer() {
     return offer;
 }
 
-void RequireKnown(bool isKnown, const Action& action, bool isOffered, bool isAccepted) {
-    if (isKnown) return;
-    throw Inconsistency{"the rules do not differ as they should: " + std::to_string(action.first) +
-                        "-" + std::to_string(action.second) + " is" + (isOffered ? "" : " not") +
-                        " offered and" + (isAccepted ? "" : " not") + " accepted"};
+void RequireRight(bool isRight, const Action& action) {
+    if (isRight) return;
+    throw Inconsistency{
+        "the computer's and people's rules do not agree or differ as they should: " +
+        std::to_string(action.first) + "-" + std::to_string(action.second)};
 }
 
 void CompareAction(const Action& action, bool isOffered) {
     const auto [from, to] = action;
     const bool isAccepted = IsAccepted(from, to);
     const Difference* known = KnownDifference(action);
-    if (known == nullptr) {
-        RequireKnown(isOffered == isAccepted, action, isOffered, isAccepted);
-        return Require(!isOffered || ActionFits(from, to), "a candidate does not fit");
+    if (known != nullptr) {
+        RequireRight(isOffered == known->IsOffered && isAccepted != isOffered, action);
+        return Count(*known->Kind);
     }
-    RequireKnown(isOffered == known->IsOffered && isAccepted != isOffered, action, isOffered,
-                 isAccepted);
-    Count(known->Kind);
+    RequireRight(isOffered == isAccepted, action);
+    Require(!isOffered || ActionFits(from, to), "a candidate does not fit");
 }
 
 /// The list names the squares of the start layouts but for the pieces beyond the middle of the
@@ -111,21 +110,17 @@ void ComparePlacement(int square, bool isOffered, bool byHand) {
     if (isOffered == isAccepted) return;
     const bool isBeyond = (Row(square) < RowCount / 2) == IsPlacingRing(Red);
     const bool isFirst = InFreeSetup() || piece.Index <= LastRingPiece;
-    RequireKnown(byHand ? isOffered || isFirst : isAccepted && isFirst && isBeyond,
-                 {square, NoSquare}, isOffered, isAccepted);
-    Count(isOffered ? Event::PlacementOffered : Event::PlacementAccepted);
+    RequireRight(byHand ? isOffered || isFirst : isAccepted && isFirst && isBeyond,
+                 {square, NoSquare});
+    Count(isOffered ? PlacementsOffered : PlacementsAccepted);
 }
 
 }  // namespace
 
 bool AcceptsRing(Piece piece) {
-    const Position before = Pos;
-    const StartTable redBefore = RedStart;
-    const StartTable blueBefore = BlueStart;
+    const Snapshot before;
     const bool accepts = PlaceRing(piece);
-    Pos = before;
-    RedStart = redBefore;
-    BlueStart = blueBefore;
+    before.Restore();
     return accepts;
 }
 

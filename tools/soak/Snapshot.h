@@ -4,41 +4,28 @@
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 
+#include <tuple>
+
 namespace brastel {
 
-/// All that an action can change, as it was when the snapshot was made.
-struct Snapshot {
-    Position Where = Pos;
-    StartTable RedTable = RedStart;
-    StartTable BlueTable = BlueStart;
-    RecordColumn From = PlayedFrom;
-    RecordColumn To = PlayedTo;
-    RecordColumn NextFrom = LoadedFrom;
-    RecordColumn NextTo = LoadedTo;
-    Int16 NextCount = LoadedCount;
-    Int16 Branch = BranchMark;
-    bool Forward = ForwardVisible;
-    bool Backward = BackwardVisible;
-    Int16 Over = GameOver;
-    Int16 Strength = Level;
+/// All that an action can change.
+inline auto GameData() {
+    return std::tie(Pos, RedStart, BlueStart, PlayedFrom, PlayedTo, LoadedFrom, LoadedTo,
+                    LoadedCount, BranchMark, ForwardVisible, BackwardVisible, GameOver, Level);
+}
 
-    bool operator==(const Snapshot&) const = default;
+/// It, as it was when the snapshot was made.
+class Snapshot {
+public:
+    void Restore() const { GameData() = Data; }
+    bool IsStillTrue() const { return GameData() == Data; }
 
-    void Restore() const {
-        Pos = Where;
-        RedStart = RedTable;
-        BlueStart = BlueTable;
-        PlayedFrom = From;
-        PlayedTo = To;
-        LoadedFrom = NextFrom;
-        LoadedTo = NextTo;
-        LoadedCount = NextCount;
-        BranchMark = Branch;
-        ForwardVisible = Forward;
-        BackwardVisible = Backward;
-        GameOver = Over;
-        Level = Strength;
+private:
+    template <typename... Part>
+    static std::tuple<Part...> Copied(const std::tuple<Part&...>& parts) {
+        return parts;
     }
+    decltype(Copied(GameData())) Data = GameData();
 };
 
 }  // namespace brastel

@@ -1,15 +1,11 @@
 #pragma once
 
 #include <cstdint>
-#include <string>
 
 namespace brastel {
 
 /// Plays one game, which is the same for the same seed and layout, and checks everything after each
 /// action. Throws Inconsistency at the first fault. Counts in the tally.
 void PlaySoakGame(std::uint32_t seed, int layout);
-
-/// The entries of the game so far and its position, for the report of a fault.
-std::string DescribedGame();
 
 }  // namespace brastel
