@@ -1,21 +1,20 @@
 #pragma once
 
+#include <iostream>
 #include <string>
+#include <unistd.h>
 
-/// What a program of random events did last, in words: printed when it fails, crashes or hangs.
+/// The events, printed as they come: the last lines tell what led to a crash.
 namespace brastel {
 
-/// The number of the events to come; those of a part came in the middle of that event.
-void NumberEvents(int number, int part);
+/// What the lines of the events to come begin with.
+inline std::string EventName;
 
-/// Remembers an event, and starts the watchdog's time anew.
-void NoteEvent(const std::string& words);
-
-/// Prints why the program ends, its title and its last events.
-void PrintLastEvents(const char* why);
-
-/// From now on a crash, and a minute without an event, print the last events before the end. The
-/// title tells how to play them again.
-void WatchEvents(const std::string& title);
+/// Prints an event. A minute without the next one ends the program by SIGALRM.
+inline void NoteEvent(const std::string& words) {
+    constexpr unsigned PatienceSeconds = 60;
+    std::cerr << EventName << words << '\n';
+    alarm(PatienceSeconds);
+}
 
 }  // namespace brastel

@@ -1,9 +1,11 @@
 #include "tools/monkey/Hands.h"
 
+#include "tools/monkey/Aims.h"
 #include "tools/monkey/EventLog.h"
 
 #include <QApplication>
 #include <QInputMethodEvent>
+#include <QPointer>
 #include <QTest>
 #include <QWheelEvent>
 
@@ -14,126 +16,134 @@ namespace {
 constexpr int Unhurried = 600;
 constexpr int Quick = 30;
 
-void Note(const QString& words, const QWindow* window) {
-    const QString in = window == nullptr ? "nowhere" : window->objectName();
-    NoteEvent((words + " in " + in).toStdString());
+Qt::MouseButtons Held;
+/// The window that has the mouse as long as a button is held.
+QPointer<QWindow> Grabber;
+int Milliseconds = 0;
+
+QWindow* MouseTarget() {
+    const bool isGrabbed = Held != Qt::NoButton && Grabber != nullptr;
+    return isGrabbed ? Grabber.data() : Top().windowHandle();
+}
+
+bool IsBlocked(const QWindow* window) {
+    const QWidget* modal = QApplication::activeModalWidget();
+    return modal != nullptr && modal->windowHandle() != window;
+}
+
+/// Notes an event, and lets it come to the window if that is there.
+template <typename Event>
+void Send(const QString& words, QWindow* window, Event event) {
+    const QString name = window == nullptr ? "nowhere" : window->objectName();
+    NoteEvent((words + " in " + name).toStdString());
+    if (window == nullptr || !window->isVisible()) return;
+    event();
+    QCoreApplication::processEvents();
 }
 
 QString At(QPoint place) { return QString(" at %1,%2").arg(place.x()).arg(place.y()); }
 
-bool IsThere(const QWindow* window) { return window != nullptr && window->isVisible(); }
+void SendMouse(const QString& words, QEvent::Type type, QWindow* window, QPoint place,
+               Qt::MouseButton button) {
+    Milliseconds += Quick;
+    Send(words + At(place), window, [=] {
+        qt_handleMouseEvent(window, place, window->mapToGlobal(place), Held, button, type,
+                            QApplication::keyboardModifiers(), Milliseconds);
+    });
+}
 
-bool IsBlocked(const QWindow& window) {
-    const QWidget* modal = QApplication::activeModalWidget();
-    return modal != nullptr && modal->windowHandle() != &window;
+void SendKey(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    QWindow* window = QGuiApplication::focusWindow();
+    const QString words = type == QEvent::KeyPress ? "key %1 + %2" : "key %1 + %2 up";
+    Send(words.arg(modifiers, 0, 16).arg(key, 0, 16), window,
+         [&] { qt_handleKeyEvent(window, type, key, modifiers, text); });
 }
 
 }  // namespace
 
-Hands::Hands() : Screen(QTest::createTouchDevice()) {}
-
 // ---- Mouse ----
 
-void Hands::Mouse(QEvent::Type type, QWindow* window, QPoint place, Qt::MouseButton button) {
-    if (!IsThere(window)) return;
-    qt_handleMouseEvent(window, place, window->mapToGlobal(place), Held, button, type,
-                        QApplication::keyboardModifiers(), Milliseconds);
-    QCoreApplication::processEvents();
-}
+Qt::MouseButtons HeldButtons() { return Held; }
 
-void Hands::Press(QWindow* window, QPoint place, Qt::MouseButton button) {
+void Press(QPoint place, Qt::MouseButton button) {
     Milliseconds += Unhurried;
-    PressAgain(window, place, button);
+    PressAgain(place, button);
 }
 
-void Hands::PressAgain(QWindow* window, QPoint place, Qt::MouseButton button) {
-    Note(QString("press %1").arg(button) + At(place), window);
+void PressAgain(QPoint place, Qt::MouseButton button) {
+    QWindow* window = MouseTarget();
     if (Held == Qt::NoButton) Grabber = window;
     Held |= button;
-    Milliseconds += Quick;
-    Mouse(QEvent::MouseButtonPress, window, place, button);
+    SendMouse(QString("press %1").arg(button), QEvent::MouseButtonPress, window, place, button);
 }
 
-void Hands::Move(QWindow* window, QPoint place) {
-    Note("move" + At(place), window);
-    Milliseconds += Quick;
-    Mouse(QEvent::MouseMove, window, place, Qt::NoButton);
+void Move(QPoint place) {
+    SendMouse("move", QEvent::MouseMove, MouseTarget(), place, Qt::NoButton);
 }
 
-void Hands::Release(QWindow* window, QPoint place, Qt::MouseButton button) {
-    Note(QString("release %1").arg(button) + At(place), window);
+void Release(QPoint place, Qt::MouseButton button) {
+    QWindow* window = MouseTarget();
     Held &= ~Qt::MouseButtons(button);
-    Milliseconds += Quick;
-    Mouse(QEvent::MouseButtonRelease, window, place, button);
+    SendMouse(QString("release %1").arg(button), QEvent::MouseButtonRelease, window, place, button);
 }
 
-void Hands::Wheel(QWindow* window, QPoint place, int delta) {
-    Note("wheel" + At(place), window);
-    if (!IsThere(window) || IsBlocked(*window)) return;
-    QWheelEvent event(place, window->mapToGlobal(place), {}, {0, delta}, Held, {},
-                      Qt::NoScrollPhase, false);
-    QApplication::sendEvent(window, &event);
-    QCoreApplication::processEvents();
+void Wheel(QPoint place, int delta) {
+    QWindow* window = MouseTarget();
+    Send("wheel" + At(place), window, [=] {
+        QWheelEvent event(place, window->mapToGlobal(place), {}, {0, delta}, Held, {},
+                          Qt::NoScrollPhase, false);
+        if (!IsBlocked(window)) QApplication::sendEvent(window, &event);
+    });
 }
 
-void Hands::Tap(QWindow* window, QPoint place) {
-    Note("tap" + At(place), window);
-    if (!IsThere(window)) return;
-    const QPointer<QWindow> tapped = window;
-    QTest::touchEvent(window, Screen.get()).press(0, place);
-    if (IsThere(tapped)) QTest::touchEvent(tapped, Screen.get()).release(0, place);
+void Tap(QPoint place) {
+    static QPointingDevice* const screen = QTest::createTouchDevice();
+    const QPointer<QWindow> window = MouseTarget();
+    Send("tap" + At(place), window, [=] {
+        QTest::touchEvent(window, screen).press(0, place);
+        if (window != nullptr && window->isVisible()) {
+            QTest::touchEvent(window, screen).release(0, place);
+        }
+    });
 }
 
 // ---- Keyboard ----
 
-void Hands::Key(QEvent::Type type, int key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    QWindow* window = QGuiApplication::focusWindow();
-    const QString way = type == QEvent::KeyPress ? "key %1 + %2" : "key %1 + %2 up";
-    Note(way.arg(modifiers, 0, 16).arg(key, 0, 16), window);
-    if (!IsThere(window)) return;
-    qt_handleKeyEvent(window, type, key, modifiers, text);
-    QCoreApplication::processEvents();
-}
-
 /// Alt has an effect of its own, and can close the menu that had the keyboard.
-void Hands::KeyDown(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    if (modifiers.testFlag(Qt::AltModifier)) Key(QEvent::KeyPress, Qt::Key_Alt, {}, {});
-    Key(QEvent::KeyPress, key, modifiers, text);
+void KeyDown(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    if (modifiers.testFlag(Qt::AltModifier)) SendKey(QEvent::KeyPress, Qt::Key_Alt, {}, {});
+    SendKey(QEvent::KeyPress, key, modifiers, text);
 }
 
-void Hands::KeyUp(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
-    Key(QEvent::KeyRelease, key, modifiers, text);
-    if (modifiers.testFlag(Qt::AltModifier)) Key(QEvent::KeyRelease, Qt::Key_Alt, {}, {});
+void KeyUp(int key, Qt::KeyboardModifiers modifiers, const QString& text) {
+    SendKey(QEvent::KeyRelease, key, modifiers, text);
+    if (modifiers.testFlag(Qt::AltModifier)) SendKey(QEvent::KeyRelease, Qt::Key_Alt, {}, {});
 }
 
-void Hands::Commit(const QString& text) {
-    Note("text " + text, QGuiApplication::focusWindow());
-    QInputMethodEvent event;
-    event.setCommitString(text);
-    QObject* focus = QGuiApplication::focusObject();
-    if (focus != nullptr) QApplication::sendEvent(focus, &event);
-    QCoreApplication::processEvents();
+void Commit(const QString& text) {
+    Send("text " + text, QGuiApplication::focusWindow(), [&] {
+        QInputMethodEvent event;
+        event.setCommitString(text);
+        QObject* focus = QGuiApplication::focusObject();
+        if (focus != nullptr) QApplication::sendEvent(focus, &event);
+    });
 }
 
 // ---- Window manager ----
 
-void Hands::Activate(QWindow* window) {
-    Note("activate", window);
-    if (IsThere(window)) window->requestActivate();
-    QCoreApplication::processEvents();
+void Activate(QWindow* window) {
+    Send("activate", window, [=] { window->requestActivate(); });
 }
 
-void Hands::LeaveWindow(QWindow* window) {
-    Note("leave", window);
+void LeaveWindow(QWindow* window) {
     QEvent event(QEvent::Leave);
-    if (IsThere(window)) QApplication::sendEvent(window, &event);
-    QCoreApplication::processEvents();
+    Send("leave", window, [&] { QApplication::sendEvent(window, &event); });
 }
 
-void Hands::Close(QWindow* window) {
-    Note("close", window);
-    if (IsThere(window) && !IsBlocked(*window)) window->close();
-    QCoreApplication::processEvents();
+void Close(QWindow* window) {
+    Send("close", window, [=] {
+        if (!IsBlocked(window)) window->close();
+    });
 }
 
 }  // namespace brastel

@@ -15,7 +15,8 @@ namespace fs = std::filesystem;
 
 constexpr unsigned Nobody = 65534;
 
-[[noreturn]] void Stop(const char* what) {
+void Require(bool isDone, const char* what) {
+    if (isDone) return;
     std::perror(what);
     std::_Exit(2);
 }
@@ -30,42 +31,38 @@ void CopyGames(const fs::path& to) {
     fs::copy(from / "damaged", to / "unter");
 }
 
-void Give(const fs::path& path) {
-    if (chown(path.c_str(), Nobody, Nobody) != 0) Stop("chown");
-}
-
 void GiveUpRights() {
-    if (setgroups(0, nullptr) != 0 || setresgid(Nobody, Nobody, Nobody) != 0 ||
-        setresuid(Nobody, Nobody, Nobody) != 0) {
-        Stop("giving up root's rights");
+    Require(chown(ScratchFolder.c_str(), Nobody, Nobody) == 0, "chown");
+    for (const auto& entry : fs::recursive_directory_iterator(ScratchFolder)) {
+        Require(chown(entry.path().c_str(), Nobody, Nobody) == 0, "chown");
     }
+    Require(setgroups(0, nullptr) == 0 && setresgid(Nobody, Nobody, Nobody) == 0 &&
+                setresuid(Nobody, Nobody, Nobody) == 0,
+            "giving up root's rights");
     // The leak sanitizer could not look into the process any more.
     prctl(PR_SET_DUMPABLE, 1);
 }
 
 }  // namespace
 
-ScratchFolder::ScratchFolder() {
+void MakeScratchFolder() {
     std::string name = fs::temp_directory_path() / "brastel-monkey-XXXXXX";
-    if (mkdtemp(name.data()) == nullptr) Stop("mkdtemp");
-    Folder = fs::canonical(name);
-    CopyGames(Folder);
-    if (geteuid() == 0) {
-        Give(Folder);
-        for (const auto& entry : fs::recursive_directory_iterator(Folder)) Give(entry.path());
-        GiveUpRights();
-    }
-    fs::current_path(Folder);
+    Require(mkdtemp(name.data()) != nullptr, "mkdtemp");
+    ScratchFolder = fs::canonical(name);
+    CopyGames(ScratchFolder);
+    if (geteuid() == 0) GiveUpRights();
+    fs::current_path(ScratchFolder);
 }
 
-bool ScratchFolder::Holds(const fs::path& path) const {
-    const fs::path inside = path.lexically_normal().lexically_relative(Folder);
+bool IsInScratchFolder(const fs::path& path) {
+    const fs::path inside = path.lexically_normal().lexically_relative(ScratchFolder);
     return !inside.empty() && *inside.begin() != "..";
 }
 
-void ScratchFolder::Remove() const {
+void RemoveScratchFolder() {
+    if (ScratchFolder.empty()) return;
     std::error_code ignored;
-    fs::remove_all(Folder, ignored);
+    fs::remove_all(ScratchFolder, ignored);
 }
 
 }  // namespace brastel

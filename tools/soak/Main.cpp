@@ -26,20 +26,18 @@ people's rules agree but for the differences named in engine/Candidates.h, that 
 the same position however it is played, that the record leads to the position, and that a step back
 and forward leads nowhere. Prints how often everything happened.
 
-  --games N    play N games (10000)
-  --first K    begin with game K (1)
-  --seed S     other games for each S (1)
-  --layout L   only in start layout L, 0 to 6 (all in turn); 6 is the free setup
-  --help       show this text
+  --games N  play N games (10000)
+  --first K  begin with game K (1)
+  --seed S   other games for each S (1)
+  --help     show this text
 
 Status: 0 if nothing is wrong; 1 at the first inconsistency, whose game is printed, and if some kind
-of event never happened in 2000 games of all layouts or more; 2 for bad arguments.
+of event never happened in 2000 games or more; 2 for bad arguments.
 )";
 
 constexpr int FoundFault = 1;
 constexpr int BadArguments = 2;
 
-constexpr int AllLayouts = -1;
 constexpr std::int64_t GamesBetweenReports = 10000;
 constexpr std::int64_t EnoughGames = 2000;
 
@@ -47,31 +45,23 @@ struct Options {
     std::int64_t Games = 10000;
     std::int64_t First = 1;
     std::int64_t Seed = 1;
-    std::int64_t Layout = AllLayouts;
 };
 
-struct Option {
-    std::string_view Name;
-    std::int64_t Options::*Value;
-    std::int64_t Least;
-    std::int64_t Most;
-};
-
-constexpr std::int64_t Plenty = 1'000'000'000'000;
-
-constexpr std::array<Option, 4> KnownOptions{{
-    {"--games", &Options::Games, 1, Plenty},
-    {"--first", &Options::First, 1, Plenty},
-    {"--seed", &Options::Seed, 0, Plenty},
-    {"--layout", &Options::Layout, 0, LayoutCount - 1},
+constexpr std::array<std::pair<std::string_view, std::int64_t Options::*>, 3> Names{{
+    {"--games", &Options::Games},
+    {"--first", &Options::First},
+    {"--seed", &Options::Seed},
 }};
 
 bool ReadOption(std::string_view name, std::string_view text, Options& options) {
-    const auto* option = std::ranges::find(KnownOptions, name, &Option::Name);
-    if (option == KnownOptions.end()) return false;
-    const auto number = ReadNumber(text, option->Least, option->Most);
-    if (number) options.*option->Value = *number;
-    return number.has_value();
+    constexpr std::int64_t Plenty = 1'000'000'000'000;
+    const auto number = ReadNumber(text, 0, Plenty);
+    for (const auto& [known, value] : Names) {
+        if (name != known || !number) continue;
+        options.*value = *number;
+        return true;
+    }
+    return false;
 }
 
 bool ReadOptions(int count, char** texts, Options& options) {
@@ -100,18 +90,15 @@ void ReportFault(const Inconsistency& fault, const Options& options, std::int64_
         std::printf(" %d-%d", PlayedFrom[k], PlayedTo[k]);
     }
     std::printf("\nposition: %s, level %d\n", Listed().c_str(), Level);
-    std::printf("Alone: brastel-soak --seed %" PRId64 " --first %" PRId64 " --games 1",
+    std::printf("Alone: brastel-soak --seed %" PRId64 " --first %" PRId64 " --games 1\n",
                 options.Seed, game);
-    if (options.Layout != AllLayouts) std::printf(" --layout %" PRId64, options.Layout);
-    std::printf("\n");
 }
 
 bool PlayAll(const Options& options) {
     for (std::int64_t played = 0; played < options.Games; ++played) {
         const std::int64_t game = options.First + played;
-        const auto layout = options.Layout == AllLayouts ? game % LayoutCount : options.Layout;
         try {
-            PlaySoakGame(SeedOf(options.Seed, game), static_cast<int>(layout));
+            PlaySoakGame(SeedOf(options.Seed, game), static_cast<int>(game % LayoutCount));
         } catch (const Inconsistency& fault) {
             ReportFault(fault, options, game);
             return false;
@@ -125,7 +112,7 @@ bool PlayAll(const Options& options) {
 
 /// A long run that never saw some kind of event has proved nothing about it.
 bool HasSeenAll(const Options& options) {
-    if (options.Layout != AllLayouts || options.Games < EnoughGames) return true;
+    if (options.Games < EnoughGames) return true;
     const auto missing = std::ranges::find(Tallies, 0, &Tally::Times);
     if (missing == Tallies.end()) return true;
     std::printf("There were no %s.\n", (*missing)->Name);
