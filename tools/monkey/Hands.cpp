@@ -87,6 +87,11 @@ void Release(QPoint place, Qt::MouseButton button) {
     SendMouse(QString("release %1").arg(button), QEvent::MouseButtonRelease, window, place, button);
 }
 
+void ReleaseOne(QPoint place) {
+    const unsigned held = Held.toInt();
+    Release(place, static_cast<Qt::MouseButton>(held & -held));
+}
+
 void Wheel(QPoint place, int delta) {
     QWindow* window = MouseTarget();
     Send("wheel" + At(place), window, [=] {
@@ -133,6 +138,10 @@ void Commit(const QString& text) {
 
 void Activate(QWindow* window) {
     Send("activate", window, [=] { window->requestActivate(); });
+}
+
+void Restore(QWindow* window) {
+    Send("restore", window, [=] { window->showNormal(); });
 }
 
 void LeaveWindow(QWindow* window) {

@@ -16,6 +16,8 @@ void PressAgain(QPoint place, Qt::MouseButton button);
 void Move(QPoint place);
 void Release(QPoint place, Qt::MouseButton button);
 Qt::MouseButtons HeldButtons();
+/// Releases one of the buttons that are held.
+void ReleaseOne(QPoint place);
 void Wheel(QPoint place, int delta);
 void Tap(QPoint place);
 
@@ -29,6 +31,7 @@ void Commit(const QString& text);
 // ---- Window manager ----
 
 void Activate(QWindow* window);
+void Restore(QWindow* window);
 void LeaveWindow(QWindow* window);
 /// Nothing for a window behind a modal one: its close box is dead.
 void Close(QWindow* window);

@@ -1,7 +1,6 @@
 #include "tools/monkey/Monkey.h"
 
 #include "engine/Random.h"
-#include "engine/Strengths.h"
 #include "files/FileChooser.h"
 #include "play/GameState.h"
 #include "tools/Chance.h"
@@ -30,6 +29,9 @@ constexpr int TopLevel = 4;
 constexpr int TopLevel = 2;
 #endif
 
+const char* const Levels[] = {"mnu_TwoPlayer", "mnu_Easy", "mnu_Medium", "mnu_Difficult",
+                              "mnu_Advanced"};
+
 constexpr int EventsBetweenPictures = 20;
 constexpr int EventsBetweenCalms = 150;
 /// Menus, dialogs and held buttons are never more than a few.
@@ -38,9 +40,8 @@ constexpr int MostCalmingEvents = 60;
 /// Careful: it follows its plan without anything in between.
 enum class Mood { Wild, Calming, Careful };
 
-/// Where in the program events arrive, by the depth of its event loops and whether it thinks:
-/// an event that opens a dialog or starts a search is still under way while others come in
-/// there.
+/// Where in the program events arrive, by the depth of its event loops and whether it thinks: an
+/// event that opens a dialog or starts a search is still under way while others come in there.
 using Whereabouts = std::pair<int, bool>;
 
 int LastEvent = 0;
@@ -54,8 +55,8 @@ Plan Ahead;
 int CalmingEvents = 0;
 
 /// Every event draws from dice of its own, made from the seed and the event's number: how many
-/// fitted into a pause, part 1 and more, does not matter for those after it. The same goes for
-/// the computer's coin tosses.
+/// fitted into a pause, part 1 and more, does not matter for those after it. The same goes for the
+/// computer's coin tosses.
 void BeginEvent(int part) {
     ++(part == 0 ? Number : NumberWhileThinking);
     Chance.seed(Seed * 1000003U + static_cast<unsigned>(Number) * 64U +
@@ -80,39 +81,35 @@ void ActWildly() {
 
 // ---- Calming down: now and then everything is left and looked at ----
 
-/// Brings the main window back, and ends a drag whose release was lost on the way. False when
-/// there is nothing to do.
+/// A drag goes on here only if its release was lost on the way. False when there is nothing to do.
 bool CalmGameWindow() {
+    if (!GameWindow->isVisible()) return false;
+    QWindow* window = GameWindow->windowHandle();
     if (GameWindow->isMinimized()) {
-        NoteEvent("restore");
-        GameWindow->showNormal();
-        QCoreApplication::processEvents();
-        return true;
+        Restore(window);
+    } else if (QGuiApplication::focusWindow() != window) {
+        Activate(window);
+    } else if (Outline().isVisible()) {
+        Move(GameWindow->rect().center());
+    } else {
+        return false;
     }
-    if (QGuiApplication::focusWindow() != GameWindow->windowHandle()) {
-        Activate(GameWindow->windowHandle());
-        return true;
-    }
-    if (!Outline().isVisible()) return false;
-    Move(GameWindow->rect().center());
     return true;
 }
 
-/// Lets go, leaves what is open, and takes the keyboard back. False when there is nothing to
-/// do.
+/// Lets go, leaves what is open, and takes the keyboard back. False when there is nothing to do.
 bool DoCalmingThing() {
-    for (const Qt::MouseButton button :
-         {Qt::LeftButton, Qt::RightButton, Qt::MiddleButton, Qt::BackButton, Qt::ForwardButton}) {
-        if (!HeldButtons().testFlag(button)) continue;
-        Release({-50, -50}, button);
+    if (HeldButtons() != Qt::NoButton) {
+        ReleaseOne({-50, -50});
         return true;
     }
     QWidget& top = Top();
-    QWindow* window = top.windowHandle();
-    if (!top.isVisible()) return false;
     if (&top == GameWindow) return CalmGameWindow();
-    const bool isPopup = &top == QApplication::activePopupWidget();
-    if (!isPopup && QGuiApplication::focusWindow() != window) {
+    if (!top.isVisible()) return false;
+    QWindow* window = top.windowHandle();
+    const bool hasKeyboard =
+        QGuiApplication::focusWindow() == window || QApplication::activePopupWidget() != nullptr;
+    if (!hasKeyboard) {
         Activate(window);
     } else if (CalmingEvents % 8 < 6) {
         KeyDown(Qt::Key_Escape, {}, {});
@@ -123,12 +120,9 @@ bool DoCalmingThing() {
 }
 
 void LowerLevel() {
-    const int level = Roll(TopLevel + 1);
-    const auto* item = level == TwoPlayerLevel
-                           ? "mnu_TwoPlayer"
-                           : Strengths[static_cast<std::size_t>(level - 1)].Item.data();
-    Ahead = Choose("mnu_Level", GameWindow->findChild<QAction*>(item)) +
-            Plan{[level] { Expect(Level == level, "the level cannot be chosen"); }};
+    auto* item = GameWindow->findChild<QAction*>(Levels[Roll(TopLevel + 1)]);
+    Ahead = Choose("mnu_Level", item) +
+            Plan{[item] { Expect(Level == item->data().toInt(), "the level cannot be chosen"); }};
 }
 
 void PlayLegally() {
@@ -168,17 +162,13 @@ bool SaveLeadsOutside() {
     return !IsInScratchFolder(folder) || !IsInScratchFolder(folder / Chooser.NameBox.c_str());
 }
 
-bool MustCalmDown() { return Level > TopLevel || Number >= LastEvent; }
-
 void Act() {
     if (SaveLeadsOutside()) Present = Mood::Calming;
     if (Present == Mood::Careful && !Ahead.empty()) return TakeStep();
     if (Present == Mood::Careful) Present = Mood::Wild;
-    if (Present == Mood::Wild && (MustCalmDown() || OneIn(EventsBetweenCalms))) {
-        Present = Mood::Calming;
-    }
-    if (Present == Mood::Calming) return CalmDown();
-    ActWildly();
+    const bool mustCalm = Level > TopLevel || Number >= LastEvent;
+    if (Present == Mood::Wild && (mustCalm || OneIn(EventsBetweenCalms))) Present = Mood::Calming;
+    Present == Mood::Calming ? CalmDown() : ActWildly();
 }
 
 /// Several events at a time, as long as they arrive in this event loop.
@@ -208,11 +198,10 @@ void ActWhileThinking() {
     Ahead = std::move(ahead);
 }
 
-/// Called again and again by a timer, so that it goes on inside dialogs, menus and the pause
-/// before a search. The timer also fires while an event is handled: if no dialog and no search
-/// has begun meanwhile, that is not yet the time for another one.
+/// Called again and again, inside dialogs, menus and the pause before a search, too, and while an
+/// event is handled: if no dialog and no search has begun meanwhile, that is not yet the time for
+/// another one.
 void Tick() {
-    QTimer::singleShot(1, GameWindow, Tick);
     const Whereabouts place{QThread::currentThread()->loopLevel(), IsThinking};
     if (place == Here || GameWindow->IsClosing()) return;
     const Whereabouts before = std::exchange(Here, place);
@@ -226,11 +215,17 @@ void PlayMonkey(int events, unsigned seed) {
     LastEvent = events;
     Seed = seed;
     QWindow other;
-    OtherWindow = &other;
-    int windows = 0;
     other.setObjectName("elsewhere");
     other.resize(100, 100);
     other.show();
+    OtherWindow = &other;
+    QTimer timer;
+    timer.setSingleShot(true);
+    QObject::connect(&timer, &QTimer::timeout, [&timer] {
+        timer.start(1);
+        Tick();
+    });
+    int windows = 0;
     while (Number < events) {
         MainWindow window;
         GameWindow = &window;
@@ -239,10 +234,11 @@ void PlayMonkey(int events, unsigned seed) {
         RememberWindow();
         Ahead.clear();
         Present = Mood::Wild;
-        QTimer::singleShot(1, &window, Tick);
+        timer.start(1);
         QApplication::exec();
         LookAtEnd();
     }
+    OtherWindow = nullptr;
     std::cout << events << " events and " << NumberWhileThinking
               << " while the computer thought, in " << windows << " windows, seed " << seed << "\n";
 }
