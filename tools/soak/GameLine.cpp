@@ -102,7 +102,8 @@ void CheckHit(const Action& entry, const Position& after) {
         return Require(after.LastHit == decltype(after.LastHit){}, "the last hit was kept");
     }
     const Piece hit = PieceOn(to);
-    Require(after.LastHit == std::array{PieceOn(from).Index, hit.Index}, "wrong last hit");
+    Require(after.LastHit == std::array{PieceOn(from).Index, hit.Index},
+            "the last hit names other pieces");
     const PieceSquares& squares = hit.Side == Red ? after.RedSquare : after.BlueSquare;
     Require(squares[hit.Index] == LandingSquare(entry), "a piece was pushed to a wrong square");
 }
