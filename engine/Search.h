@@ -4,7 +4,7 @@
 
 namespace brastel {
 
-/// The row of MoveList in which a search leaves its candidates: always 1.
+/// The row of MoveList in which a search leaves its candidates.
 constexpr Int16 SearchPly = 1;
 
 /// Candidates kept at the root, and the amount by which that falls to the next ply, itself falling

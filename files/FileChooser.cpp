@@ -155,6 +155,12 @@ const char* ChooserTitle(ChooserMode mode) {
     return mode == ChooserMode::Open ? "開く" : "新規保存";
 }
 
+void ForgetVisits() {
+    FolderOnDrive.clear();
+    HasLoadedBefore = false;
+    ChosenFileName.clear();
+}
+
 void OpenChooser(ChooserMode mode) {
     Chooser = {};
     Chooser.Mode = mode;

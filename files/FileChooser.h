@@ -39,6 +39,9 @@ extern std::string ChosenFileName;
 /// "開く" or "新規保存".
 const char* ChooserTitle(ChooserMode mode);
 
+/// As when the program starts: no folder visited, no file loaded or chosen.
+void ForgetVisits();
+
 /// Starts the dialog anew in the working folder.
 void OpenChooser(ChooserMode mode);
 

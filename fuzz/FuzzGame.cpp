@@ -7,7 +7,7 @@
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 
-#include <cstdlib>
+#include <sys/mman.h>
 #include <unistd.h>
 
 namespace brastel {
@@ -25,14 +25,12 @@ void ShownGame::RequireSound() const {
 
 void ShownFiles::OpenMainWindow() { OpenGame(); }
 
-MemoryFile::MemoryFile() : Name("/dev/shm/brastel-XXXXXX"), File(mkstemp(Name.data())) {
+MemoryFile::MemoryFile()
+    : File(memfd_create("game", MFD_CLOEXEC)), Name("/proc/self/fd/" + std::to_string(File)) {
     Require(File >= 0, "no file in memory");
 }
 
-MemoryFile::~MemoryFile() {
-    close(File);
-    unlink(Name.c_str());
-}
+MemoryFile::~MemoryFile() { close(File); }
 
 void MemoryFile::Write(std::string_view bytes) const {
     Require(ftruncate(File, 0) == 0, "the file in memory cannot be emptied");

@@ -63,12 +63,12 @@ public:
     std::string Read() const;
 
 private:
-    std::string Name;
     int File;
+    std::string Name;
 };
 
-/// Starts everything anew as after a start of the program, with the standard layout, two people,
-/// these views, and no record of an earlier game.
+/// All data as after a start of the program, with these views; the standard layout waits for the
+/// main window to be opened, by a load or else.
 void StartProgram(ShownGame& game, ShownFiles& files);
 
 /// Loads the file as from the menu. True if no error was shown.

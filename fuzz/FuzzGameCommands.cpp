@@ -3,6 +3,7 @@
 
 #include "core/StartPosition.h"
 #include "engine/Candidates.h"
+#include "engine/Random.h"
 #include "files/GameFile.h"
 #include "fuzz/FuzzGame.h"
 #include "fuzz/FuzzTarget.h"
@@ -10,6 +11,7 @@
 #include "play/GameState.h"
 #include "play/Hint.h"
 #include "play/HumanAction.h"
+#include "tools/soak/Snapshot.h"
 
 #include <algorithm>
 #include <array>
@@ -19,7 +21,7 @@ namespace {
 
 constexpr std::size_t CommandSize = 4;
 constexpr std::size_t LeastCommands = 50;
-constexpr std::size_t MostCommands = 250;
+constexpr std::size_t MostCommands = 150;
 
 /// What follows the number of a command; each reads what it needs.
 struct Arguments {
@@ -44,7 +46,15 @@ public:
 
 BusyGame Game;
 ShownFiles Files;
-const std::array<MemoryFile, 2> Saved;
+
+/// A file, and what was last saved in it.
+struct SavedGame {
+    MemoryFile File;
+    RecordColumn From;
+    RecordColumn To;
+    Int16 Count = -1;
+};
+std::array<SavedGame, 2> Saved;
 
 // ---- What the numbers mean ----
 
@@ -98,8 +108,28 @@ void ChoosePieceNumber(Arguments a) {
     Files.OpenMainWindow();
 }
 
-void Save(Arguments a) { SaveGameFile(Saved[static_cast<std::size_t>(a.A % 2)].Path()); }
-void Load(Arguments a) { LoadFrom(Saved[static_cast<std::size_t>(a.A % 2)], Files); }
+SavedGame& SavedOf(int number) { return Saved[static_cast<std::size_t>(number % 2)]; }
+
+void Save(Arguments a) {
+    SavedGame& saved = SavedOf(a.A);
+    SaveGameFile(saved.File.Path());
+    saved.From = PlayedFrom;
+    saved.To = PlayedTo;
+    saved.Count = ToInt16(Pos.MoveCount - 1);
+}
+
+/// The file loaded last is not read again.
+void Load(Arguments a) {
+    const SavedGame& saved = SavedOf(a.A);
+    const bool isRead = LoadedFileName != saved.File.Path();
+    const bool isLoaded = LoadFrom(saved.File, Files);
+    if (!isRead || !isLoaded) return;
+    Require(LoadedCount == saved.Count, "a saved game has another length");
+    for (int k = 1; k <= LoadedCount; ++k) {
+        Require(LoadedFrom[k] == saved.From[k] && LoadedTo[k] == saved.To[k],
+                "a saved game has another entry");
+    }
+}
 
 /// The window is closed as soon as the next command lets the computer think.
 void CloseWhileThinking(Arguments /*a*/) { Game.ClosesNext = true; }
@@ -122,10 +152,9 @@ Command CommandOf(int number) {
 
 /// Every command of the game, one after the other: none may do anything now.
 void RunWhileThinking() {
-    const Position before = Pos;
-    const Int16 level = Level;
+    const Snapshot before;
     for (const Command command : GameCommands) command({12, 13, 14});
-    Require(Pos == before && Level == level, "the game went on while the computer thinks");
+    Require(before.IsStillTrue(), "the game went on while the computer thinks");
 }
 
 /// The program ended with its window.
@@ -135,6 +164,8 @@ void StartAgain() {
 }
 
 void RunOne(FuzzInput& input) {
+    // A new game seeds from the clock; an input must play the same game every time.
+    SeedRandom(1);
     const Command command = CommandOf(input.Byte());
     const int a = input.Byte();
     const int b = input.Byte();
@@ -148,7 +179,10 @@ void RunOne(FuzzInput& input) {
 
 void StartStream() {
     StartProgram(Game, Files);
-    for (const MemoryFile& file : Saved) file.Write("");
+    for (SavedGame& saved : Saved) {
+        saved.File.Write("");
+        saved.Count = -1;
+    }
     Game.Closing = Game.ClosesNext = false;
     Files.OpenMainWindow();
 }

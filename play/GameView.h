@@ -33,7 +33,8 @@ public:
     virtual void ShowBusy(bool /*busy*/) {}
     /// Lets pending window events be handled, once.
     virtual void HandleEvents() {}
-    /// Seconds on a clock that cannot be set back. With nobody watching it may leap.
+    /// Seconds on a clock that cannot be set back. A view without a person before it may let it
+    /// leap, so that no pause takes time.
     virtual double Now() const;
     /// True once the window has been closed: the program is about to end, so no move is begun.
     virtual bool IsClosing() const { return false; }

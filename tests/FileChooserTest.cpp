@@ -22,6 +22,7 @@ const Names Shown{" a b .brs",           "-x.brs", "B.txt", "a.brs", "c\xff.brs"
 class Dialog : public FileDesk {
 public:
     explicit Dialog(ChooserMode mode, const std::string& folder = "") {
+        ForgetVisits();
         ChosenFileName = "before";
         for (const char* name : {".hide", "gone", "sub", "空 x"}) fs::create_directory(name);
         fs::create_symlink("loop", "loop");
@@ -36,9 +37,8 @@ public:
     std::string Seen(bool closes = false) {
         std::string seen = Told() + (closes ? "closes " : "");
         if (ChosenFileName != "before") seen += fs::path(ChosenFileName).lexically_relative(Folder);
-        // The first load of a run ends in the program's folder.
-        static bool hasLoaded = false;
-        const bool isFirstLoad = closes && Chooser.Mode == Open && !std::exchange(hasLoaded, true);
+        // The first load ends in the program's folder.
+        const bool isFirstLoad = closes && Chooser.Mode == Open;
         const fs::path program = fs::read_symlink("/proc/self/exe").parent_path();
         EXPECT_EQ(fs::current_path(), isFirstLoad ? program : fs::path(Chooser.Folder));
         if (closes || (Chooser.Folder == Folder && Chooser.Files == Shown)) return seen;

@@ -7,8 +7,7 @@
 /// noted in the event log. Windows that are gone get nothing.
 namespace brastel {
 
-// ---- Mouse: at a place in the top window, or in the one where it was pressed and is still held
-// ----
+// ---- Mouse: in the top window, or in the one where it was pressed and is still held ----
 
 void Press(QPoint place, Qt::MouseButton button);
 /// Soon enough after the last press to be its double.

@@ -2,7 +2,7 @@
 
 #include <string>
 
-/// What must hold. A failure prints the last events, removes the scratch folder and ends the
+/// What must hold. A failure says what is wrong, removes the scratch folder and ends the
 /// program.
 namespace brastel {
 

@@ -22,9 +22,11 @@ constexpr std::int64_t Plenty = 1'000'000'000;
 /// Nothing of the user's is read, and nothing but the scratch folder is written.
 void PrepareEnvironment() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (const char* name : {"HOME", "XDG_CACHE_HOME", "XDG_RUNTIME_DIR"}) {
+    for (const char* name :
+         {"HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
         qputenv(name, QByteArray::fromStdString(ScratchFolder));
     }
+    for (const char* name : {"QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR"}) qunsetenv(name);
 }
 
 /// What the platform says about itself at every dialog, and the fonts at odd characters, is left

@@ -32,10 +32,11 @@ void CopyGames(const fs::path& to) {
 }
 
 void GiveUpRights() {
-    Require(chown(ScratchFolder.c_str(), Nobody, Nobody) == 0, "chown");
+    // The folder last: before, nobody else can put a link into it.
     for (const auto& entry : fs::recursive_directory_iterator(ScratchFolder)) {
-        Require(chown(entry.path().c_str(), Nobody, Nobody) == 0, "chown");
+        Require(lchown(entry.path().c_str(), Nobody, Nobody) == 0, "lchown");
     }
+    Require(lchown(ScratchFolder.c_str(), Nobody, Nobody) == 0, "lchown");
     Require(setgroups(0, nullptr) == 0 && setresgid(Nobody, Nobody, Nobody) == 0 &&
                 setresuid(Nobody, Nobody, Nobody) == 0,
             "giving up root's rights");

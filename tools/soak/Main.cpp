@@ -55,7 +55,7 @@ constexpr std::array<std::pair<std::string_view, std::int64_t Options::*>, 3> Na
 
 bool ReadOption(std::string_view name, std::string_view text, Options& options) {
     constexpr std::int64_t Plenty = 1'000'000'000'000;
-    const auto number = ReadNumber(text, 0, Plenty);
+    const auto number = ReadNumber(text, 1, Plenty);
     for (const auto& [known, value] : Names) {
         if (name != known || !number) continue;
         options.*value = *number;
