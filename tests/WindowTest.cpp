@@ -7,11 +7,14 @@
 #include <QMenu>
 #include <QMenuBar>
 #include <QPointer>
-#include <QTimer>
 
 namespace brastel {
 
 WindowTest::WindowTest() : Form(Window.centralWidget()) { Open(FreeSetupLayout); }
+
+WindowTest::~WindowTest() {
+    EXPECT_FALSE(ThinkingTimer.isActive()) << "the computer never thought";
+}
 
 void WindowTest::Open(int layout) {
     SelectStartLayout(layout);
@@ -126,11 +129,15 @@ void WindowTest::ChoosePieceNumber(const char* button) {
 
 void WindowTest::ExpectViewShowsPosition() { EXPECT_EQ(FirstWrongShown(Picture()), ""); }
 
+/// It waits for the computer, not for a time: on a slow machine the gesture that makes the computer
+/// think can take longer than any.
 void WindowTest::WhileThinking(const std::function<void()>& action) {
-    QTimer::singleShot(10, [action] {
-        EXPECT_TRUE(IsThinking);
+    ThinkingTimer.callOnTimeout(&ThinkingTimer, [this, action] {
+        if (!IsThinking) return;
+        ThinkingTimer.stop();
         action();
     });
+    ThinkingTimer.start(1);
 }
 
 }  // namespace brastel

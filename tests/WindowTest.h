@@ -5,6 +5,7 @@
 
 #include <QImage>
 #include <QTest>
+#include <QTimer>
 #include <gtest/gtest.h>
 
 #include <functional>
@@ -17,6 +18,7 @@ namespace brastel {
 class WindowTest : public testing::Test {
 protected:
     WindowTest();
+    ~WindowTest() override;
 
     /// Opens the window with a start layout, without the dialog.
     void Open(int layout);
@@ -57,8 +59,9 @@ protected:
     /// Every square shows the piece and ring that the position has there, and nothing else.
     void ExpectViewShowsPosition();
 
-    /// Runs something in the middle of the computer's pause.
-    static void WhileThinking(const std::function<void()>& action);
+    /// Runs something once the computer thinks, in the pause before its search. It is a failure if
+    /// the computer does not think until the test ends.
+    void WhileThinking(const std::function<void()>& action);
 
     MainWindow Window;
     QWidget* Form;
@@ -69,6 +72,7 @@ private:
 
     std::vector<Answer> Answers;
     bool IsPolling = false;
+    QTimer ThinkingTimer;
 };
 
 }  // namespace brastel
