@@ -44,7 +44,7 @@ public:
     /// A byte tells the length of the text behind it.
     std::string Text() {
         const auto length = static_cast<std::size_t>(Byte());
-        const std::string text(Bytes.substr(0, length));
+        std::string text(Bytes.substr(0, length));
         Bytes.remove_prefix(text.size());
         return text;
     }
