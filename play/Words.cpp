@@ -1,0 +1,232 @@
+#include "play/Words.h"
+
+namespace brastel {
+
+namespace {
+
+// ---- Pieces of any position ----
+
+/// As PieceCount, of any position and whatever its counters hold.
+int CountIn(const Position& position, int side) {
+    const int count = side == Red ? position.RedCount : position.BlueCount;
+    const int placed = side == Red ? position.RedPlaced : position.BluePlaced;
+    return std::clamp(std::max(count, placed), 0, MaxPieces);
+}
+
+int SquareIn(const Position& position, Piece piece) {
+    if (piece.Index < 1 || piece.Index > CountIn(position, piece.Side)) return NoSquare;
+    const int square = (piece.Side == Red ? position.RedSquare : position.BlueSquare)[piece.Index];
+    return IsOnBoard(square) ? square : NoSquare;
+}
+
+Piece PieceIn(const Position& position, int square) {
+    if (!IsOnBoard(square)) return {};
+    for (const Int16 side : {Red, Blue}) {
+        for (int i = 1; i <= CountIn(position, side); ++i) {
+            const Piece piece{side, ToInt16(i)};
+            if (SquareIn(position, piece) == square) return piece;
+        }
+    }
+    return {};
+}
+
+// ---- Places ----
+
+constexpr bool IsGoalMouth(int square) {
+    return square == 4 || square == 5 || square == 108 || square == 109;
+}
+
+std::string PlacePrefix(int square) {
+    if (InField(square)) return {};
+    return IsGoalMouth(square) ? "goal, " : "outside, ";
+}
+
+std::string On(int square) {
+    return IsGoalMouth(square) ? "in the goal" : "on " + SquareInWords(square);
+}
+
+/// The end of a way that begins on another square.
+std::string To(int from, int to) {
+    if (!IsOnBoard(to)) return "off the board";
+    if (IsGoalMouth(to)) return "into the goal";
+    const bool goesOut = InField(from) && !InField(to);
+    return (goesOut ? "out to " : "to ") + SquareInWords(to);
+}
+
+// ---- What happened between two positions ----
+
+/// One position and the one that it became.
+class Change {
+public:
+    Change(const Position& before, const Position& after)
+        : Before(before),
+          After(after),
+          Mover(before.SideToMove == Blue ? Blue : Red),
+          IsAction(after.SideToMove == -Mover && (after.MoveCount == before.MoveCount ||
+                                                  after.MoveCount == before.MoveCount + 1)) {}
+
+    std::string InWords() {
+        for (const int side : {+Mover, -Mover}) TellMoves(side);
+        for (std::size_t ring = 0; ring < RingCount; ++ring) TellRing(ring);
+        for (const int side : {+Mover, -Mover}) TellReturns(side);
+        return Told.empty() ? StandstillInWords() : Told;
+    }
+
+private:
+    struct Way {
+        int From;
+        int To;
+    };
+    Way WayOf(Piece piece) const { return {SquareIn(Before, piece), SquareIn(After, piece)}; }
+
+    static bool IsReturn(Way way) {
+        return way.From != NoSquare && !InField(way.From) && InField(way.To);
+    }
+
+    void Tell(const std::string& words) { Told += (Told.empty() ? "" : "; ") + words; }
+
+    template <typename Operation>
+    void ForEachMoved(int side, Operation operation) {
+        const int count = std::max(CountIn(Before, side), CountIn(After, side));
+        for (int i = 1; i <= count; ++i) {
+            const Piece piece{ToInt16(side), ToInt16(i)};
+            const Way way = WayOf(piece);
+            if (way.From != way.To) operation(piece, way);
+        }
+    }
+
+    // ---- Moves and pushes ----
+
+    void TellMoves(int side) {
+        ForEachMoved(side, [this](Piece piece, Way way) {
+            if (!IsReturn(way) && piece != Pushed) Tell(MoveInWords(piece, way));
+        });
+    }
+
+    std::string MoveInWords(Piece piece, Way way) {
+        const std::string name = PieceInWords(piece);
+        if (way.From == NoSquare) return name + ' ' + On(way.To);
+        if (way.To == NoSquare) return name + " leaves the board";
+        return name + " from " + SquareInWords(way.From) + ' ' + To(way.From, way.To) +
+               PushInWords(piece, way);
+    }
+
+    /// The piece that the last hit names, if it is this one that came to its square with it.
+    Piece PushedBy(Piece piece, Way way) const {
+        if (!IsAction || piece.Side != Mover || piece.Index != After.LastHit[0]) return {};
+        const Piece other = PieceIn(Before, way.To);
+        return other.Side == -Mover && other.Index == After.LastHit[1] ? other : Piece{};
+    }
+
+    std::string PushInWords(Piece piece, Way way) {
+        const Piece other = PushedBy(piece, way);
+        const int landing = WayOf(other).To;
+        if (!other || landing == way.To || landing == NoSquare) return {};
+        Pushed = other;
+        std::string words = ", pushes " + PieceInWords(other) + ' ' + To(way.To, landing);
+        for (std::size_t ring = 0; ring < RingCount; ++ring) {
+            if (!HasTaken(ring, way.To)) continue;
+            RingTold[ring] = true;
+            words += " and takes its ring";
+        }
+        return words;
+    }
+
+    /// A ring stays on its square when its carrier is pushed off it.
+    bool HasTaken(std::size_t ring, int square) const {
+        return Before.RingSquare[ring] == square && After.RingSquare[ring] == square;
+    }
+
+    // ---- Rings ----
+
+    void TellRing(std::size_t ring) {
+        if (RingTold[ring]) return;
+        const Way way{Before.RingSquare[ring], After.RingSquare[ring]};
+        const Piece from = PieceIn(Before, way.From);
+        const Piece to = PieceIn(After, way.To);
+        if (IsPlacement(ring) && to) return Tell(TakesInWords(to, way.To));
+        if (from != to || (!to && way.From != way.To)) Tell(RingInWords(from, to, way));
+    }
+
+    /// The ring can be laid just where it lies.
+    bool IsPlacement(std::size_t ring) const {
+        const int entry = 1 + static_cast<int>(ring);
+        return IsAction && Before.MoveCount == entry && After.MoveCount == entry + 1;
+    }
+
+    static std::string TakesInWords(Piece piece, int square) {
+        return PieceInWords(piece) + " takes the ring " + On(square);
+    }
+
+    std::string RingInWords(Piece from, Piece to, Way way) const {
+        const std::string receiver = PieceInWords(to) + ' ' + On(way.To);
+        const std::string ring = from ? "the ring of " + PieceInWords(from) : "a ring";
+        if (IsAction && to && !from) return TakesInWords(to, way.To);
+        if (IsAction && from.Side == Mover && to.Side == Mover) {
+            return PieceInWords(from) + " passes the ring to " + receiver;
+        }
+        if (to) return ring + " goes to " + receiver;
+        if (!from) return ring + " lies " + On(way.To);
+        return IsAction ? PieceInWords(from) + " leaves the ring " + On(way.To)
+                        : ring + " goes " + To(way.From, way.To);
+    }
+
+    // ---- Pieces coming back ----
+
+    void TellReturns(int side) {
+        ForEachMoved(side, [this](Piece piece, Way way) {
+            if (IsReturn(way)) Tell(PieceInWords(piece) + " comes back " + On(way.To));
+        });
+    }
+
+    std::string StandstillInWords() const {
+        if (IsAction) return SideInWords(Mover) + " passes";
+        return After.SideToMove != Mover ? SideInWords(After.SideToMove) + " to move"
+                                         : "nothing changed";
+    }
+
+    const Position& Before;
+    const Position& After;
+    const Int16 Mover;
+    /// The one who is to move has acted, and nothing else.
+    const bool IsAction;
+    Piece Pushed;
+    std::array<bool, RingCount> RingTold{};
+    std::string Told;
+};
+
+}  // namespace
+
+std::string SideInWords(int side) { return side == Red ? "Red" : "Blue"; }
+
+std::string SquareInWords(int square) {
+    if (!IsOnBoard(square)) return "off the board";
+    return "row " + std::to_string(Row(square) + 1) + ", column " +
+           std::to_string(Column(square) + 1);
+}
+
+std::string PieceInWords(Piece piece) {
+    if (!piece) return "no piece";
+    return SideInWords(piece.Side) + " piece " + std::to_string(piece.Index);
+}
+
+std::string ContentInWords(int square) {
+    if (!IsOnBoard(square)) return SquareInWords(square);
+    const Piece piece = PieceIn(Pos, square);
+    const auto rings = std::ranges::count(Pos.RingSquare, square);
+    std::string content = piece ? PieceInWords(piece) : rings == 0 ? "empty" : "";
+    if (piece && rings > 0) content += ", carries ";
+    if (rings > 0) content += rings == 1 ? "a ring" : "both rings";
+    return PlacePrefix(square) + content;
+}
+
+std::string SquareWithContent(int square) {
+    if (!IsOnBoard(square)) return SquareInWords(square);
+    return SquareInWords(square) + ": " + ContentInWords(square);
+}
+
+std::string ChangesInWords(const Position& before, const Position& after) {
+    return Change(before, after).InWords();
+}
+
+}  // namespace brastel
