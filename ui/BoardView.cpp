@@ -32,6 +32,10 @@ constexpr std::array<Line, 7> FieldLines{{
     {{220, 540}, {300, 540}},
 }};
 
+/// A dark blue stands out from the grey ground and from both beads.
+constexpr QColor MarkColor(0, 0, 160);
+constexpr int MarkWidth = 3;
+
 constexpr QRect BoardBorder(BoardLeft, BoardTop, BoardWidth, BoardHeight);
 /// shp_Circle, Red's and Blue's.
 constexpr QRect RedCircle = TwipRect{7920, 2760, 612, 612}.InPixels();
@@ -64,6 +68,18 @@ void PaintCircle(QPainter& painter, const QRect& rect) {
     painter.restore();
 }
 
+/// A frame just inside the square, clear of its outline; broken around a piece that has been taken
+/// up.
+void PaintMark(QPainter& painter, int square, Qt::PenStyle style) {
+    constexpr qreal Inset = 1.5 + MarkWidth / 2.0;
+    constexpr qreal Edge = CellSize - Inset * 2 + 1;
+    painter.save();
+    painter.setPen(QPen(MarkColor, MarkWidth, style, Qt::FlatCap, Qt::MiterJoin));
+    painter.setBrush(Qt::NoBrush);
+    painter.drawRect(QRectF(SquareLeft(square) + Inset, SquareTop(square) + Inset, Edge, Edge));
+    painter.restore();
+}
+
 /// shp_Ring, above the pieces: nothing else shows who carries a ring.
 void PaintRings(QPainter& painter) {
     for (const Int16 square : Pos.RingSquare) {
@@ -75,7 +91,7 @@ void PaintRings(QPainter& painter) {
 
 BoardView::BoardView(QWidget* parent) : QWidget(parent) {
     setObjectName("Form");
-    setFocusPolicy(Qt::ClickFocus);
+    setFocusPolicy(Qt::StrongFocus);
     setAttribute(Qt::WA_OpaquePaintEvent);
 }
 
@@ -83,6 +99,14 @@ void BoardView::ShowTurn(Int16 side) {
     Turn = side;
     update(RedCircle);
     update(BlueCircle);
+}
+
+QRect BoardView::TurnCircle(Int16 side) { return side == Red ? RedCircle : BlueCircle; }
+
+void BoardView::ShowMarks(const KeyboardMarks& marks) {
+    if (marks == Marks) return;
+    Marks = marks;
+    update();
 }
 
 Piece BoardView::PieceAt(QPoint point) {
@@ -108,6 +132,12 @@ void BoardView::PaintPieces(QPainter& painter) {
     }
 }
 
+void BoardView::PaintMarks(QPainter& painter) {
+    if (!Marks.IsShown || !hasFocus()) return;
+    if (Marks.Held != NoSquare) PaintMark(painter, Marks.Held, Qt::DotLine);
+    PaintMark(painter, Marks.Focus, Qt::SolidLine);
+}
+
 /// Lines lie above the pieces' grey ground, which would cut into them.
 void BoardView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
@@ -117,7 +147,8 @@ void BoardView::paintEvent(QPaintEvent* event) {
     PaintSquares(painter);
     PaintFieldLines(painter);
     PaintRings(painter);
-    PaintCircle(painter, Turn == Red ? RedCircle : BlueCircle);
+    PaintMarks(painter);
+    PaintCircle(painter, TurnCircle(Turn));
     PaintOutline(painter, MessageFrame);
 }
 

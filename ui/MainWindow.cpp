@@ -5,9 +5,12 @@
 #include "play/GameState.h"
 #include "play/Hint.h"
 #include "play/HumanAction.h"
+#include "ui/Announcer.h"
+#include "ui/BoardAccessible.h"
 #include "ui/BoardView.h"
 #include "ui/FileDialog.h"
 #include "ui/Icon.h"
+#include "ui/KeyboardInput.h"
 #include "ui/Layout.h"
 #include "ui/Menus.h"
 #include "ui/MouseInput.h"
@@ -68,7 +71,6 @@ void FillHidden(std::array<QLineEdit*, Count>& boxes, QWidget* parent, const QSt
         boxes[i] = new QLineEdit(parent);
         boxes[i]->setObjectName(name + QString::number(i));
         boxes[i]->setEnabled(false);
-        boxes[i]->hide();
     }
 }
 
@@ -85,6 +87,7 @@ int RunMessageBox(QMessageBox::Icon icon, const std::string& text, const std::st
 }  // namespace
 
 MainWindow::MainWindow() {
+    InstallBoardAccessible();
     BuildWindow();
     BuildSidePanel();
     BuildHiddenControls();
@@ -123,25 +126,35 @@ void MainWindow::BuildSidePanel() {
 
 /// Controls that belong to the window but are never shown.
 void MainWindow::BuildHiddenControls() {
-    NewButton(Form, "btn_Undo", "Undo", UndoPlace)->hide();
+    auto* hidden = new QWidget(Form);
+    hidden->hide();
+    NewButton(hidden, "btn_Undo", "Undo", UndoPlace);
     for (std::size_t i = 0; i < ScorePlaces.size(); ++i) {
-        auto* score = new QLabel(Form);
-        PlaceControl(*score, QString("lbl_Score%1").arg(i), ScorePlaces[i]);
-        score->hide();
+        PlaceControl(*new QLabel(hidden), QString("lbl_Score%1").arg(i), ScorePlaces[i]);
     }
-    FillHidden(Text1, Form, "Text1_");
-    FillHidden(Text2, Form, "Text2_");
+    FillHidden(Text1, hidden, "Text1_");
+    FillHidden(Text2, hidden, "Text2_");
 }
 
 void MainWindow::ConnectInput() {
+    Voice = new Announcer(Form);
     Mouse = new MouseInput(Form);
-    connect(Mouse, &MouseInput::Form_DragDrop, DropOnBoard);
-    connect(Mouse, &MouseInput::Piece_DragDrop, DropOnPiece);
-    connect(Mouse, &MouseInput::Piece_DblClick, DoubleClickPiece);
-    connect(Mouse, &MouseInput::Form_MouseUp, ClickBoard);
+    Keyboard = new KeyboardInput(Form, Mouse);
+    ConnectGestures(*Mouse);
+    ConnectGestures(*Keyboard);
+    connect(Keyboard, &KeyboardInput::FocusMoved, this,
+            [this](int square) { TellSquareFocused(*Form, square); });
+    connect(Keyboard, &KeyboardInput::Told, Voice, &Announcer::Say);
     connect(btn_Forward, &QPushButton::clicked, StepForward);
     connect(btn_Backward, &QPushButton::clicked, StepBack);
     connect(btn_Hint, &QPushButton::clicked, Hint);
+}
+
+void MainWindow::ConnectGestures(const BoardInput& input) {
+    connect(&input, &BoardInput::Form_DragDrop, DropOnBoard);
+    connect(&input, &BoardInput::Piece_DragDrop, DropOnPiece);
+    connect(&input, &BoardInput::Piece_DblClick, DoubleClickPiece);
+    connect(&input, &BoardInput::Form_MouseUp, ClickBoard);
 }
 
 void MainWindow::OpenMainWindow() {
@@ -174,13 +187,22 @@ void MainWindow::ChangePieceNumberCommand() {
 
 void MainWindow::ExitCommand() { close(); }
 
-void MainWindow::PlacePieces() { Form->update(); }
+void MainWindow::PlacePieces() {
+    Form->update();
+    Voice->FollowPosition();
+}
 
 void MainWindow::ShowMessage(std::string_view text) {
     lbl_Message->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
+    const QString words = lbl_Message->text().trimmed();
+    lbl_Message->setAccessibleName("Status line: " + (words.isEmpty() ? "empty" : words));
+    if (!words.isEmpty()) Voice->Say(words);
 }
 
-void MainWindow::ShowTurn(Int16 side) { Form->ShowTurn(side); }
+void MainWindow::ShowTurn(Int16 side) {
+    Form->ShowTurn(side);
+    TellTurnChanged(*Form);
+}
 
 void MainWindow::Beep() { QApplication::beep(); }
 
@@ -198,6 +220,7 @@ void MainWindow::ShowStepButton(QPushButton& button, bool visible) {
 void MainWindow::ShowBusy(bool busy) {
     if (busy) {
         Mouse->Cancel();
+        Keyboard->LetGo();
         QApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QApplication::restoreOverrideCursor();

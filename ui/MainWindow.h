@@ -14,7 +14,10 @@
 
 namespace brastel {
 
+class Announcer;
+class BoardInput;
 class BoardView;
+class KeyboardInput;
 class MouseInput;
 
 /// frm_Tamber, the program's one working window, and the view that the game and the file commands
@@ -67,12 +70,15 @@ private:
     void BuildSidePanel();
     void BuildHiddenControls();
     void ConnectInput();
+    void ConnectGestures(const BoardInput& input);
     void ShowStepButton(QPushButton& button, bool visible);
     /// Runs the file dialog; closing it by its close box closes this window, too. False then.
     bool RunFileDialog(ChooserMode mode);
 
     BoardView* Form = nullptr;
     MouseInput* Mouse = nullptr;
+    KeyboardInput* Keyboard = nullptr;
+    Announcer* Voice = nullptr;
     QActionGroup* Levels = nullptr;
     bool Closing = false;
 

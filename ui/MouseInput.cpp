@@ -3,7 +3,6 @@
 #include "ui/BoardView.h"
 #include "ui/Outline.h"
 
-#include <QKeyEvent>
 #include <QMouseEvent>
 #include <QPainter>
 
@@ -40,7 +39,8 @@ bool IsFormPoint(const QWidget& form, QPoint point) {
 
 }  // namespace
 
-MouseInput::MouseInput(QWidget* view) : QObject(view), Form(view), Outline(new DragOutline(view)) {
+MouseInput::MouseInput(QWidget* view)
+    : BoardInput(view), Form(view), Outline(new DragOutline(view)) {
     Form->installEventFilter(this);
     // Moves without a button tell that a release went elsewhere.
     Form->setMouseTracking(true);
@@ -65,9 +65,6 @@ bool MouseInput::eventFilter(QObject* /*watched*/, QEvent* event) {
         case QEvent::MouseButtonRelease:
             Release(static_cast<QMouseEvent&>(*event));
             return true;
-        case QEvent::KeyPress:
-            if (static_cast<QKeyEvent&>(*event).key() == Qt::Key_Escape) Cancel();
-            return false;
         case QEvent::FocusOut:
         case QEvent::WindowDeactivate:
         case QEvent::Hide:
@@ -121,18 +118,9 @@ void MouseInput::Release(const QMouseEvent& event) {
     const QPoint point = PixelOf(event);
     if (!IsFormPoint(*Form, point)) return;
     if (ended == Gesture::Drag) {
-        Drop(point);
+        Drop(Pressed, point);
     } else {
         emit Form_MouseUp(point.x(), point.y());
-    }
-}
-
-void MouseInput::Drop(QPoint point) {
-    const Piece target = BoardView::PieceAt(point);
-    if (target) {
-        emit Piece_DragDrop(Pressed, target);
-    } else {
-        emit Form_DragDrop(Pressed, point.x(), point.y());
     }
 }
 

@@ -1,0 +1,248 @@
+#include "ui/BoardAccessible.h"
+
+#include "play/Words.h"
+#include "ui/Announcer.h"
+#include "ui/BoardView.h"
+#include "ui/KeyboardInput.h"
+
+#include <QAbstractButton>
+#include <QAccessibleWidget>
+#include <QApplication>
+#include <QLabel>
+#include <QPointer>
+
+#include <vector>
+
+namespace brastel {
+
+namespace {
+
+// ---- The order of the view's children ----
+
+constexpr int SquareChildren = LastSquare;
+constexpr int RedTurnChild = SquareChildren;
+constexpr int BlueTurnChild = RedTurnChild + 1;
+constexpr int AnnouncementChild = BlueTurnChild + 1;
+constexpr int PartCount = AnnouncementChild + 1;
+
+/// Something that the view shows, or says, without a widget of its own.
+class BoardPart : public QAccessibleInterface {
+public:
+    explicit BoardPart(BoardView* view) : View(view) {}
+
+    bool isValid() const override { return View != nullptr; }
+    QObject* object() const override { return nullptr; }
+    QWindow* window() const override { return View->window()->windowHandle(); }
+    QAccessibleInterface* parent() const override {
+        return QAccessible::queryAccessibleInterface(View);
+    }
+    int childCount() const override { return 0; }
+    QAccessibleInterface* child(int /*index*/) const override { return nullptr; }
+    QAccessibleInterface* childAt(int /*x*/, int /*y*/) const override { return nullptr; }
+    int indexOfChild(const QAccessibleInterface* /*child*/) const override { return -1; }
+    void setText(QAccessible::Text /*kind*/, const QString& /*text*/) override {}
+
+    QRect rect() const override {
+        const QRect place = Place();
+        return {View->mapToGlobal(place.topLeft()), place.size()};
+    }
+    QString text(QAccessible::Text kind) const override {
+        return kind == QAccessible::Name ? Name() : QString();
+    }
+
+protected:
+    /// In view coordinates.
+    virtual QRect Place() const = 0;
+    virtual QString Name() const = 0;
+
+    const QPointer<BoardView> View;
+};
+
+/// A button, because it can be pressed like one.
+class SquarePart final : public BoardPart, public QAccessibleActionInterface {
+public:
+    SquarePart(BoardView* view, int square) : BoardPart(view), Square(square) {}
+
+    QAccessible::Role role() const override { return QAccessible::Button; }
+    QAccessible::State state() const override {
+        QAccessible::State state;
+        state.focusable = true;
+        state.focused = View->hasFocus() && Keyboard().FocusSquare() == Square;
+        state.selectable = true;
+        state.selected = Keyboard().HeldSquare() == Square;
+        return state;
+    }
+    void* interface_cast(QAccessible::InterfaceType type) override {
+        return type == QAccessible::ActionInterface ? static_cast<QAccessibleActionInterface*>(this)
+                                                    : nullptr;
+    }
+
+    QStringList actionNames() const override {
+        return {pressAction(), setFocusAction(), RingAction};
+    }
+    QString localizedActionName(const QString& name) const override {
+        return name == RingAction ? name : QAccessibleActionInterface::localizedActionName(name);
+    }
+    QString localizedActionDescription(const QString& name) const override {
+        if (name == pressAction()) return "Takes up the piece, or drops the one that is held";
+        if (name == RingAction) return "Gives the ring to the piece, as a double-click does";
+        return QAccessibleActionInterface::localizedActionDescription(name);
+    }
+    QStringList keyBindingsForAction(const QString& name) const override {
+        if (name == pressAction()) return {"Space"};
+        return name == RingAction ? QStringList("R") : QStringList();
+    }
+    /// Dialogs keep mouse and keyboard from the board; they do not keep off these calls.
+    void doAction(const QString& name) override {
+        if (!View->isVisible() || QApplication::activeModalWidget() != nullptr) return;
+        View->setFocus();
+        Keyboard().FocusOn(Square);
+        if (name == pressAction()) Keyboard().Press();
+        if (name == RingAction) Keyboard().DoubleClick();
+    }
+
+protected:
+    QRect Place() const override {
+        return {SquareLeft(Square), SquareTop(Square), CellSize, CellSize};
+    }
+    QString Name() const override { return QString::fromStdString(SquareWithContent(Square)); }
+
+private:
+    static inline const QString RingAction = "Give ring";
+
+    KeyboardInput& Keyboard() const { return *View->findChild<KeyboardInput*>(); }
+
+    const int Square;
+};
+
+class TurnPart final : public BoardPart {
+public:
+    TurnPart(BoardView* view, Int16 side) : BoardPart(view), Side(side) {}
+
+    QAccessible::Role role() const override { return QAccessible::Indicator; }
+    QAccessible::State state() const override { return {}; }
+
+protected:
+    QRect Place() const override { return BoardView::TurnCircle(Side); }
+    QString Name() const override {
+        const QString side = QString::fromStdString(SideInWords(Side));
+        return side + "'s turn circle: " + (View->ShownTurn() == Side ? "to move" : "waiting");
+    }
+
+private:
+    const Int16 Side;
+};
+
+/// Screen readers read a notification out when it appears.
+class AnnouncementPart final : public BoardPart {
+public:
+    using BoardPart::BoardPart;
+
+    QAccessible::Role role() const override { return QAccessible::Notification; }
+    QAccessible::State state() const override { return {}; }
+
+protected:
+    QRect Place() const override { return {}; }
+    QString Name() const override { return View->findChild<Announcer*>()->Text(); }
+};
+
+/// The view itself: its parts, then its controls.
+class BoardInterface final : public QAccessibleWidget {
+public:
+    explicit BoardInterface(BoardView* view)
+        : QAccessibleWidget(view, QAccessible::Grouping, "Board") {
+        for (int square = FirstSquare; square <= LastSquare; ++square) {
+            Add(new SquarePart(view, square));
+        }
+        Add(new TurnPart(view, Red));
+        Add(new TurnPart(view, Blue));
+        Add(new AnnouncementPart(view));
+    }
+
+    int childCount() const override { return PartCount + static_cast<int>(Controls().size()); }
+
+    QAccessibleInterface* child(int index) const override {
+        if (index < 0 || index >= childCount()) return nullptr;
+        if (index < PartCount) return Part(index);
+        return QAccessible::queryAccessibleInterface(Controls()[index - PartCount]);
+    }
+
+    int indexOfChild(const QAccessibleInterface* child) const override {
+        for (int n = 0; n < PartCount; ++n) {
+            if (Part(n) == child) return n;
+        }
+        const auto control = Controls().indexOf(qobject_cast<QWidget*>(child->object()));
+        return control < 0 ? -1 : PartCount + static_cast<int>(control);
+    }
+
+    QAccessibleInterface* focusChild() const override {
+        if (!widget()->hasFocus()) return QAccessibleWidget::focusChild();
+        return Part(widget()->findChild<KeyboardInput*>()->FocusSquare() - FirstSquare);
+    }
+
+    QString text(QAccessible::Text kind) const override {
+        if (kind != QAccessible::Description) return QAccessibleWidget::text(kind);
+        return "Arrow keys move over the squares, Enter picks up and drops, Escape lets go, R "
+               "gives "
+               "the ring.";
+    }
+
+private:
+    ~BoardInterface() override {
+        for (const QAccessible::Id id : Parts) QAccessible::deleteAccessibleInterface(id);
+    }
+
+    void Add(BoardPart* part) { Parts.push_back(QAccessible::registerAccessibleInterface(part)); }
+
+    QAccessibleInterface* Part(int index) const {
+        return QAccessible::accessibleInterface(Parts[static_cast<std::size_t>(index)]);
+    }
+
+    QWidgetList Controls() const {
+        QWidgetList controls;
+        for (QWidget* child : widget()->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+            const bool isControl =
+                qobject_cast<QAbstractButton*>(child) || qobject_cast<QLabel*>(child);
+            if (isControl) controls.append(child);
+        }
+        return controls;
+    }
+
+    std::vector<QAccessible::Id> Parts;
+};
+
+QAccessibleInterface* NewBoardInterface(const QString& /*key*/, QObject* object) {
+    auto* view = qobject_cast<BoardView*>(object);
+    return view == nullptr ? nullptr : new BoardInterface(view);
+}
+
+void Tell(QWidget& boardView, int child, QAccessible::Event what) {
+    if (!QAccessible::isActive()) return;
+    QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&boardView);
+    QAccessibleEvent event(board->child(child), what);
+    QAccessible::updateAccessibility(&event);
+}
+
+}  // namespace
+
+void InstallBoardAccessible() { QAccessible::installFactory(NewBoardInterface); }
+
+void TellSquareChanged(QWidget& boardView, int square) {
+    Tell(boardView, square - FirstSquare, QAccessible::NameChanged);
+}
+
+void TellSquareFocused(QWidget& boardView, int square) {
+    Tell(boardView, square - FirstSquare, QAccessible::Focus);
+}
+
+void TellTurnChanged(QWidget& boardView) {
+    Tell(boardView, RedTurnChild, QAccessible::NameChanged);
+    Tell(boardView, BlueTurnChild, QAccessible::NameChanged);
+}
+
+void TellAnnouncement(QWidget& boardView) {
+    Tell(boardView, AnnouncementChild, QAccessible::NameChanged);
+    Tell(boardView, AnnouncementChild, QAccessible::ObjectShow);
+}
+
+}  // namespace brastel

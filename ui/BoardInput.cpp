@@ -1,0 +1,16 @@
+#include "ui/BoardInput.h"
+
+#include "ui/BoardView.h"
+
+namespace brastel {
+
+void BoardInput::Drop(Piece dragged, QPoint point) {
+    const Piece target = BoardView::PieceAt(point);
+    if (target) {
+        emit Piece_DragDrop(dragged, target);
+    } else {
+        emit Form_DragDrop(dragged, point.x(), point.y());
+    }
+}
+
+}  // namespace brastel

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "core/Position.h"
+
+#include <QObject>
+#include <QPoint>
+
+namespace brastel {
+
+/// What people do on the board, whatever they do it with. Points are in view coordinates.
+class BoardInput : public QObject {
+    Q_OBJECT
+
+public:
+    using QObject::QObject;
+
+signals:
+    /// A piece was dropped on the form, where no piece and no control lies.
+    void Form_DragDrop(brastel::Piece dragged, int x, int y);
+    /// A piece was dropped on a piece, its own picture included.
+    void Piece_DragDrop(brastel::Piece dragged, brastel::Piece target);
+    /// Both clicks of a double-click hit the same piece.
+    void Piece_DblClick(brastel::Piece piece);
+    /// The empty form was clicked.
+    void Form_MouseUp(int x, int y);
+
+protected:
+    /// Drops the piece at a point of the form where no control lies.
+    void Drop(Piece dragged, QPoint point);
+};
+
+}  // namespace brastel

@@ -1,0 +1,158 @@
+#include "ui/KeyboardInput.h"
+
+#include "play/GameState.h"
+#include "play/Words.h"
+#include "ui/MouseInput.h"
+
+#include <QKeyEvent>
+
+#include <algorithm>
+#include <iterator>
+
+namespace brastel {
+
+namespace {
+
+struct Binding {
+    int Key;
+    /// True if the key goes on while it is held down.
+    bool Repeats;
+    void (*Action)(KeyboardInput&);
+};
+
+/// Moves the focus one square, unless it stands at the edge.
+template <int Rows, int Columns>
+void Step(KeyboardInput& keyboard) {
+    const int square = keyboard.FocusSquare();
+    keyboard.FocusOn(SquareAt(Row(square) + Rows, Column(square) + Columns));
+}
+
+constexpr auto Press = [](KeyboardInput& keyboard) { keyboard.Press(); };
+
+constexpr Binding Bindings[] = {
+    {Qt::Key_Up, true, Step<-1, 0>},
+    {Qt::Key_Down, true, Step<1, 0>},
+    {Qt::Key_Left, true, Step<0, -1>},
+    {Qt::Key_Right, true, Step<0, 1>},
+    {Qt::Key_Return, false, Press},
+    {Qt::Key_Enter, false, Press},
+    {Qt::Key_Space, false, Press},
+    {Qt::Key_Select, false, Press},
+    {Qt::Key_R, false, [](KeyboardInput& keyboard) { keyboard.DoubleClick(); }},
+    {Qt::Key_Escape, false, [](KeyboardInput& keyboard) { keyboard.LetGo(); }},
+};
+
+bool IsByKeyboard(Qt::FocusReason reason) {
+    return reason == Qt::TabFocusReason || reason == Qt::BacktabFocusReason;
+}
+
+QString PieceName(int square) { return QString::fromStdString(PieceInWords(PieceOn(square))); }
+
+}  // namespace
+
+KeyboardInput::KeyboardInput(BoardView* view, MouseInput* mouse)
+    : BoardInput(view), Form(view), Mouse(mouse) {
+    Form->installEventFilter(this);
+}
+
+bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
+    switch (event->type()) {
+        case QEvent::KeyPress:
+            return Handle(static_cast<QKeyEvent&>(*event));
+        case QEvent::MouseButtonPress:
+        case QEvent::MouseButtonDblClick:
+            FollowMouse(static_cast<QMouseEvent&>(*event).position().toPoint());
+            return false;
+        case QEvent::FocusIn:
+            if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) Marks.IsShown = true;
+            ShowMarks();
+            emit FocusMoved(Marks.Focus);
+            return false;
+        case QEvent::FocusOut:
+        case QEvent::WindowDeactivate:
+        case QEvent::Hide:
+            LetGo();
+            return false;
+        default:
+            return false;
+    }
+}
+
+/// Keys with Control, Alt or Meta belong to the menus and the desktop.
+bool KeyboardInput::Handle(const QKeyEvent& event) {
+    constexpr auto Foreign = Qt::ControlModifier | Qt::AltModifier | Qt::MetaModifier;
+    const auto binding =
+        std::find_if(std::begin(Bindings), std::end(Bindings),
+                     [&event](const Binding& candidate) { return candidate.Key == event.key(); });
+    if (binding == std::end(Bindings) || (event.modifiers() & Foreign)) return false;
+    if (event.isAutoRepeat() && !binding->Repeats) return true;
+    Mouse->Cancel();
+    Marks.IsShown = true;
+    binding->Action(*this);
+    ShowMarks();
+    return true;
+}
+
+void KeyboardInput::FollowMouse(QPoint point) {
+    LetGo();
+    Marks.IsShown = false;
+    if (IsBoardPoint(point.x(), point.y())) FocusOn(SquareFromPoint(point.x(), point.y()));
+    ShowMarks();
+}
+
+void KeyboardInput::ShowMarks() { Form->ShowMarks(Marks); }
+
+QPoint KeyboardInput::FocusPoint() const {
+    return QPoint(SquareLeft(Marks.Focus), SquareTop(Marks.Focus)) +
+           QPoint(CellSize / 2, CellSize / 2);
+}
+
+void KeyboardInput::FocusOn(int square) {
+    if (IsThinking || !IsOnBoard(square)) return;
+    Marks.Focus = square;
+    ShowMarks();
+    emit FocusMoved(square);
+}
+
+void KeyboardInput::Press() {
+    if (IsThinking) return;
+    if (Marks.Held != NoSquare) return DropHere();
+    if (PieceOn(Marks.Focus)) return PickUp();
+    emit Form_MouseUp(FocusPoint().x(), FocusPoint().y());
+}
+
+void KeyboardInput::PickUp() {
+    Marks.Held = Marks.Focus;
+    ShowMarks();
+    emit Told(PieceName(Marks.Held) + " picked up");
+}
+
+/// The piece may have gone meanwhile, taken away by a menu command.
+void KeyboardInput::DropHere() {
+    const Piece held = PieceOn(Marks.Held);
+    Marks.Held = NoSquare;
+    ShowMarks();
+    if (!held) return;
+    const int moveCount = Pos.MoveCount;
+    Drop(held, FocusPoint());
+    if (Pos.MoveCount == moveCount) {
+        emit Told(QString::fromStdString(PieceInWords(held)) + " stays");
+    }
+}
+
+void KeyboardInput::DoubleClick() {
+    if (IsThinking) return;
+    LetGo();
+    const Piece piece = PieceOn(Marks.Focus);
+    if (piece) emit Piece_DblClick(piece);
+}
+
+void KeyboardInput::LetGo() {
+    if (Marks.Held == NoSquare) return;
+    const QString name = PieceName(Marks.Held);
+    Marks.Held = NoSquare;
+    ShowMarks();
+    emit Told(name + " put back");
+}
+
+}  // namespace brastel
