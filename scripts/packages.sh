@@ -4,7 +4,7 @@ BuildPackages=(g++ cmake ninja-build qt6-base-dev)
 # Half-width katakana need a Japanese font.
 FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
-TestPackages=(libgtest-dev libbenchmark-dev openbox x11-utils)
+TestPackages=(qt6-base-private-dev libgtest-dev libbenchmark-dev openbox x11-utils)
 CheckPackages=(clang-format clang-tidy)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
 

@@ -1,17 +1,19 @@
 #include "ui/Announcer.h"
 
 #include "core/Opening.h"
+#include "play/GameState.h"
 #include "play/Words.h"
 #include "ui/BoardAccessible.h"
 
-#include <QAccessible>
-
+#include <chrono>
 #include <string>
 #include <utility>
 
 namespace brastel {
 
 namespace {
+
+constexpr auto RetryAfter = std::chrono::milliseconds(50);
 
 /// What led from one position to the present one, in words; empty if nothing did.
 QString NewsSince(const Position& before) {
@@ -30,7 +32,7 @@ Announcer::Announcer(QWidget* boardView) : QObject(boardView), Form(boardView) {
 }
 
 void Announcer::Say(const QString& text) {
-    Waiting.append(text);
+    Messages.append(text);
     Timer.start(0);
 }
 
@@ -45,13 +47,15 @@ void Announcer::TellChangedSquares() {
     }
 }
 
-/// Called when an action is over, with its entry and the turn, not in the middle of it.
+/// Called when an action is over, with its entry and the turn, not in the middle of it. While the
+/// computer thinks nobody could ask for the text, so it waits for the computer's answer.
 void Announcer::Speak() {
     const QString news = NewsSince(std::exchange(Known, Pos));
-    if (!news.isEmpty()) Waiting.prepend(news);
-    Current = Waiting.join(". ");
-    Waiting.clear();
-    if (!QAccessible::isActive() || Current.isEmpty()) return;
+    if (!news.isEmpty()) Texts.append(news);
+    Texts.append(std::exchange(Messages, {}));
+    if (IsThinking) return Timer.start(RetryAfter);
+    if (Texts.isEmpty()) return;
+    Current = std::exchange(Texts, {}).join(". ");
     TellChangedSquares();
     TellAnnouncement(*Form);
 }

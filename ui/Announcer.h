@@ -11,7 +11,7 @@
 namespace brastel {
 
 /// Says in words what a player who does not see the board would miss. What comes together is read
-/// out together. Silent where no assistive technology listens.
+/// out together. Without assistive technology nobody hears it.
 class Announcer : public QObject {
     Q_OBJECT
 
@@ -21,7 +21,7 @@ public:
     /// What was read out last.
     const QString& Text() const { return Current; }
 
-    /// Reads the text out when the program next waits for events.
+    /// Reads the text out when the program next waits for events and the computer does not think.
     void Say(const QString& text);
     /// Says then, too, and before, what has become of the position.
     void FollowPosition();
@@ -33,7 +33,9 @@ private:
     QWidget* const Form;
     Position Known;
     Table<std::string, FirstSquare, LastSquare> Contents;
-    QStringList Waiting;
+    /// Said since the position was last looked at, and all that waits to be read out.
+    QStringList Messages;
+    QStringList Texts;
     QTimer Timer;
     QString Current;
 };

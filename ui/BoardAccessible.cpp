@@ -217,7 +217,6 @@ QAccessibleInterface* NewBoardInterface(const QString& /*key*/, QObject* object)
 }
 
 void Tell(QWidget& boardView, int child, QAccessible::Event what) {
-    if (!QAccessible::isActive()) return;
     QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&boardView);
     QAccessibleEvent event(board->child(child), what);
     QAccessible::updateAccessibility(&event);

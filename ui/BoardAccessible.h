@@ -9,7 +9,7 @@ namespace brastel {
 /// Makes Qt describe every board view in this way. May be called again.
 void InstallBoardAccessible();
 
-// ---- What changed; nothing happens where no assistive technology listens ----
+// ---- What changed ----
 /// What stands on a square of the board.
 void TellSquareChanged(QWidget& boardView, int square);
 /// The keyboard points at a square of the board.

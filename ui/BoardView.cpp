@@ -32,8 +32,9 @@ constexpr std::array<Line, 7> FieldLines{{
     {{220, 540}, {300, 540}},
 }};
 
-/// A dark blue stands out from the grey ground and from both beads.
-constexpr QColor MarkColor(0, 0, 160);
+/// Blue stands out from the ground and the beads, the white line inside from a ring.
+constexpr QColor MarkColor(0, 64, 255);
+constexpr QColor HeldTint(0, 64, 255, 100);
 constexpr int MarkWidth = 3;
 
 constexpr QRect BoardBorder(BoardLeft, BoardTop, BoardWidth, BoardHeight);
@@ -68,16 +69,18 @@ void PaintCircle(QPainter& painter, const QRect& rect) {
     painter.restore();
 }
 
-/// A frame just inside the square, clear of its outline; broken around a piece that has been taken
-/// up.
-void PaintMark(QPainter& painter, int square, Qt::PenStyle style) {
-    constexpr qreal Inset = 1.5 + MarkWidth / 2.0;
-    constexpr qreal Edge = CellSize - Inset * 2 + 1;
-    painter.save();
-    painter.setPen(QPen(MarkColor, MarkWidth, style, Qt::FlatCap, Qt::MiterJoin));
-    painter.setBrush(Qt::NoBrush);
-    painter.drawRect(QRectF(SquareLeft(square) + Inset, SquareTop(square) + Inset, Edge, Edge));
-    painter.restore();
+/// A frame of whole device pixels just inside the rectangle.
+void PaintFrame(QPainter& painter, const QRect& rect, int width, const QBrush& brush) {
+    const QRect inside = rect.adjusted(width, width, -width, -width);
+    for (const QRect& part : QRegion(rect) - inside) painter.fillRect(part, brush);
+}
+
+/// Around the square, so that it hides neither its bead nor its ring.
+void PaintFocus(QPainter& painter, int square) {
+    const QRect outline(SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1);
+    const QRect frame = outline.adjusted(-2, -2, 2, 2);
+    PaintFrame(painter, frame, MarkWidth + 1, Qt::white);
+    PaintFrame(painter, frame, MarkWidth, MarkColor);
 }
 
 /// shp_Ring, above the pieces: nothing else shows who carries a ring.
@@ -134,8 +137,11 @@ void BoardView::PaintPieces(QPainter& painter) {
 
 void BoardView::PaintMarks(QPainter& painter) {
     if (!Marks.IsShown || !hasFocus()) return;
-    if (Marks.Held != NoSquare) PaintMark(painter, Marks.Held, Qt::DotLine);
-    PaintMark(painter, Marks.Focus, Qt::SolidLine);
+    if (Marks.Held != NoSquare) {
+        painter.fillRect(SquareLeft(Marks.Held), SquareTop(Marks.Held), CellSize + 1, CellSize + 1,
+                         HeldTint);
+    }
+    PaintFocus(painter, Marks.Focus);
 }
 
 /// Lines lie above the pieces' grey ground, which would cut into them.

@@ -196,7 +196,8 @@ void MainWindow::ShowMessage(std::string_view text) {
     lbl_Message->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
     const QString words = lbl_Message->text().trimmed();
     lbl_Message->setAccessibleName("Status line: " + (words.isEmpty() ? "empty" : words));
-    if (!words.isEmpty()) Voice->Say(words);
+    // It would be read out when the thinking is over.
+    if (!words.isEmpty() && text != ThinkingText) Voice->Say(words);
 }
 
 void MainWindow::ShowTurn(Int16 side) {

@@ -1,0 +1,224 @@
+#include "core/StartPosition.h"
+#include "play/GameState.h"
+#include "tests/WindowTest.h"
+
+#include <QAccessible>
+#include <qpa/qplatformaccessibility.h>
+#include <qpa/qplatformintegration.h>
+#include <qtestaccessible.h>
+
+#include <private/qguiapplication_p.h>
+
+namespace brastel {
+
+namespace {
+
+/// What assistive technology gets to know, through Qt's own interface.
+class AccessibilityTest : public WindowTest {
+protected:
+    AccessibilityTest() {
+        QTestAccessibility::initialize();
+        ActAsListened(true);
+    }
+    ~AccessibilityTest() override {
+        ActAsListened(false);
+        QTestAccessibility::cleanup();
+    }
+
+    /// Offscreen, nobody asks for events, and none are sent then.
+    static void ActAsListened(bool isListened) {
+        QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(isListened);
+    }
+
+    QAccessibleInterface* Board() { return QAccessible::queryAccessibleInterface(Form); }
+    QAccessibleInterface* Square(int square) { return Board()->child(square - 1); }
+    static QString NameOf(QAccessibleInterface* object) { return object->text(QAccessible::Name); }
+    QString NameOf(const char* control) {
+        return NameOf(QAccessible::queryAccessibleInterface(Control<QWidget>(control)));
+    }
+    void Do(int square, const QString& action) {
+        Square(square)->actionInterface()->doAction(action);
+    }
+    void PressSquare(int square) { Do(square, QAccessibleActionInterface::pressAction()); }
+
+    QAccessibleInterface* Find(const QString& name) {
+        for (int n = 0; n < Board()->childCount(); ++n) {
+            if (NameOf(Board()->child(n)) == name) return Board()->child(n);
+        }
+        return nullptr;
+    }
+
+    /// Lets all be read out that was done so far.
+    static void Forget() {
+        QTest::qWait(10);
+        QTestAccessibility::clearEvents();
+    }
+
+    /// Waits for a text and returns it.
+    static std::string ReadOut() {
+        std::string text;
+        const bool isSpoken = QTest::qWaitFor([&text] {
+            for (const QAccessibleEvent* event : QTestAccessibility::events()) {
+                QAccessibleInterface* object = event->accessibleInterface();
+                const bool isText = event->type() == QAccessible::ObjectShow && object != nullptr &&
+                                    object->role() == QAccessible::Notification;
+                if (isText) text = NameOf(object).toStdString();
+            }
+            return !text.empty();
+        });
+        EXPECT_TRUE(isSpoken);
+        QTestAccessibility::clearEvents();
+        return text;
+    }
+};
+
+TEST_F(AccessibilityTest, EverySquareSaysWhatStandsThere) {
+    OpenForTwo(3, 68, 44);
+    const std::pair<int, const char*> Names[] = {
+        {68, "row 9, column 4: Red piece 3, carries a ring"},
+        {66, "row 9, column 2: Red piece 1"},
+        {42, "row 6, column 2: Blue piece 1"},
+        {58, "row 8, column 2: empty"},
+    };
+    for (const auto& [square, name] : Names) EXPECT_EQ(NameOf(Square(square)), name);
+    EXPECT_EQ(Board()->indexOfChild(Square(112)), 111);
+    EXPECT_EQ(Square(68)->parent(), Board());
+    const QPoint place = Form->mapToGlobal(Centre(68));
+    EXPECT_EQ(NameOf(Board()->childAt(place.x(), place.y())), NameOf(Square(68)));
+}
+
+TEST_F(AccessibilityTest, TheWholeTreeIsSound) {
+    Open(5);
+    QList<QAccessibleInterface*> open{QAccessible::queryAccessibleInterface(&Window)};
+    int named = 0;
+    while (!open.empty()) {
+        QAccessibleInterface* object = open.takeLast();
+        ASSERT_TRUE(object->isValid());
+        named += !NameOf(object).isEmpty();
+        for (int n = 0; n < object->childCount(); ++n) {
+            QAccessibleInterface* child = object->child(n);
+            ASSERT_NE(child, nullptr) << NameOf(object).toStdString() << " " << n;
+            EXPECT_EQ(object->indexOfChild(child), n) << NameOf(child).toStdString();
+            EXPECT_EQ(child->parent(), object) << NameOf(child).toStdString();
+            open.append(child);
+        }
+    }
+    EXPECT_EQ(Board()->child(-1), nullptr);
+    EXPECT_EQ(Board()->child(Board()->childCount()), nullptr);
+    EXPECT_GT(named, 112 + 20) << "squares, panel, menus";
+}
+
+TEST_F(AccessibilityTest, ThePanelHasNames) {
+    OpenForTwo(3, 68, 44);
+    EXPECT_NE(Find("Red's turn circle: to move"), nullptr);
+    EXPECT_NE(Find("Blue's turn circle: waiting"), nullptr);
+    Drag(69, 61);
+    EXPECT_NE(Find("Blue's turn circle: to move"), nullptr);
+    EXPECT_EQ(NameOf("lbl_Message"), "Status line: empty");
+    ShowStatus(RedWinsText);
+    EXPECT_EQ(NameOf("lbl_Message"), "Status line: Red Wins!");
+    for (const char* button : {"Forward", "Backward", "Hint"}) EXPECT_NE(Find(button), nullptr);
+    EXPECT_EQ(Find("Undo"), nullptr) << "never shown, so never read";
+}
+
+TEST_F(AccessibilityTest, TheFocusIsOnASquare) {
+    Open(3);
+    QTestAccessibility::clearEvents();
+    QTest::keyClick(Window.windowHandle(), Qt::Key_Left);
+    EXPECT_EQ(NameOf(Board()->focusChild()), "row 9, column 3: Red piece 2");
+    EXPECT_TRUE(Square(67)->state().focused);
+    EXPECT_FALSE(Square(68)->state().focused);
+    QAccessibleEvent focused(Square(67), QAccessible::Focus);
+    EXPECT_TRUE(QTestAccessibility::containsEvent(&focused));
+    Control<QWidget>("btn_Hint")->setFocus();
+    EXPECT_FALSE(Square(67)->state().focused);
+}
+
+TEST_F(AccessibilityTest, MovesAndMessagesAreReadOut) {
+    OpenForTwo(0, 68, 44);
+    Forget();
+    Drag(69, 61);
+    EXPECT_EQ(ReadOut(), "Red piece 2 from row 9, column 5 to row 8, column 5");
+    Drag(45, 53);
+    Forget();
+    Drag(61, 53);
+    EXPECT_EQ(ReadOut(),
+              "Red piece 2 from row 8, column 5 to row 7, column 5, pushes Blue piece 2 to row 5, "
+              "column 5");
+    Drag(37, 53);
+    EXPECT_EQ(ReadOut(), "You Cant't Push Back");
+    ClickButton("btn_Backward");
+    EXPECT_TRUE(ReadOut().starts_with("Taken back: ")) << "not told as a move";
+    ChooseFromMenu("mnu_Options", "mnu_NewGame");
+    EXPECT_EQ(ReadOut(), "At the start");
+}
+
+TEST_F(AccessibilityTest, TheComputersAnswerIsReadOut) {
+    Open(3);
+    DoubleClick(69);
+    Forget();
+    Drag(67, 59);
+    const std::string own = "Red piece 2 from row 9, column 3 to row 8, column 3. Blue piece ";
+    const std::string text = ReadOut();
+    EXPECT_TRUE(text.starts_with(own)) << text;
+}
+
+TEST_F(AccessibilityTest, ChangedSquaresAreTold) {
+    OpenForTwo(3, 68, 44);
+    Forget();
+    Drag(66, 58);
+    QTest::qWait(1);
+    for (const int square : {66, 58}) {
+        QAccessibleEvent changed(Square(square), QAccessible::NameChanged);
+        EXPECT_TRUE(QTestAccessibility::containsEvent(&changed)) << square;
+    }
+    QAccessibleEvent unchanged(Square(67), QAccessible::NameChanged);
+    EXPECT_FALSE(QTestAccessibility::containsEvent(&unchanged));
+}
+
+TEST_F(AccessibilityTest, SquaresCanBePressed) {
+    Open(3);
+    ChooseFromMenu("mnu_Level", "mnu_TwoPlayer");
+    Do(68, "Give ring");
+    Do(44, "Give ring");
+    ASSERT_EQ(Pos.MoveCount, 3);
+    Forget();
+    PressSquare(66);
+    EXPECT_TRUE(Square(66)->state().selected);
+    EXPECT_EQ(ReadOut(), "Red piece 1 picked up");
+    PressSquare(58);
+    EXPECT_EQ(Pos.Board[58], Red);
+    Forget();
+    PressSquare(42);
+    Forget();
+    PressSquare(112);
+    EXPECT_EQ(ReadOut(), "Blue piece 1 stays");
+    EXPECT_EQ(Pos.MoveCount, 4);
+}
+
+/// Calls of assistive technology are no events, so they reach the board even where mouse and
+/// keyboard do not.
+TEST_F(AccessibilityTest, SquaresCannotBePressedAtTheWrongTime) {
+    Open(3);
+    DoubleClick(69);
+    WhileThinking([this] {
+        PressSquare(70);
+        Do(70, "Give ring");
+        EXPECT_FALSE(Square(70)->state().selected);
+    });
+    Drag(67, 59);
+    EXPECT_EQ(Pos.MoveCount, 5);
+    const Position position = Pos;
+    ChooseAndAnswer("mnu_Help", "mnu_Rules", {[this](QWidget& dialog) {
+                        PressSquare(70);
+                        PressSquare(62);
+                        // A dialog behind a dialog could not be left.
+                        Control<QAction>("mnuFileItem1")->trigger();
+                        dialog.close();
+                    }});
+    EXPECT_EQ(Pos, position);
+}
+
+}  // namespace
+
+}  // namespace brastel
