@@ -4,7 +4,8 @@ BuildPackages=(g++ cmake ninja-build qt6-base-dev)
 # Half-width katakana need a Japanese font.
 FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
-TestPackages=(qt6-base-private-dev libgtest-dev libbenchmark-dev openbox x11-utils)
+TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-utils at-spi2-core
+    dbus-daemon libglib2.0-bin python3-pyatspi)
 CheckPackages=(clang-format clang-tidy)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
 

@@ -29,6 +29,9 @@ QString NewsSince(const Position& before) {
 Announcer::Announcer(QWidget* boardView) : QObject(boardView), Form(boardView) {
     Timer.setSingleShot(true);
     Timer.callOnTimeout(this, &Announcer::Speak);
+    for (int square = FirstSquare; square <= LastSquare; ++square) {
+        Contents[square] = ContentInWords(square);
+    }
 }
 
 void Announcer::Say(const QString& text) {

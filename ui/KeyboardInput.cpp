@@ -66,7 +66,7 @@ bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
         case QEvent::FocusIn:
             if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) Marks.IsShown = true;
             ShowMarks();
-            emit FocusMoved(Marks.Focus);
+            TellFocusLater();
             return false;
         case QEvent::FocusOut:
         case QEvent::WindowDeactivate:
@@ -98,6 +98,14 @@ void KeyboardInput::FollowMouse(QPoint point) {
     Marks.IsShown = false;
     if (IsBoardPoint(point.x(), point.y())) FocusOn(SquareFromPoint(point.x(), point.y()));
     ShowMarks();
+}
+
+/// After the toolkit has told that the view as a whole has the focus.
+void KeyboardInput::TellFocusLater() {
+    const auto tell = [this] {
+        if (Form->hasFocus()) emit FocusMoved(Marks.Focus);
+    };
+    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
 }
 
 void KeyboardInput::ShowMarks() { Form->ShowMarks(Marks); }

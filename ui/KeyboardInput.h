@@ -44,6 +44,7 @@ protected:
 private:
     bool Handle(const QKeyEvent& event);
     void FollowMouse(QPoint point);
+    void TellFocusLater();
     void ShowMarks();
     void PickUp();
     void DropHere();
