@@ -10,24 +10,24 @@ namespace {
 constexpr QRgb Black = qRgb(0, 0, 0);
 constexpr QRgb Ground = qRgb(192, 192, 192);
 
-/// Run at device pixel ratios 1 and 2.
-class BoardViewTest : public WindowTest {
-protected:
-    /// Length of the black run that begins at a logical point, in device pixels; 0 unless the pixel
-    /// before it is ground.
-    static int BlackRun(const QImage& picture, QPoint start, QPoint step) {
-        const int ratio = qRound(picture.devicePixelRatio());
-        QPoint point = start * ratio;
-        if (picture.pixel(point - step) != Ground) return 0;
-        int length = 0;
-        for (; picture.pixel(point) == Black; point += step) ++length;
-        return picture.pixel(point) == Ground ? length : 0;
-    }
-};
+using BoardViewTest = WindowTest;
 
+/// Length of the black run that begins at a logical point, in device pixels. At a ratio that is no
+/// whole number it may begin a device pixel earlier or later. 0 unless the pixels before and behind
+/// it are ground.
+int BlackRun(const QImage& picture, QPoint start, QPoint step) {
+    QPoint point = (QPointF(start) * picture.devicePixelRatio()).toPoint() - 2 * step;
+    if (picture.pixel(point) != Ground) return 0;
+    while (picture.pixel(point) == Ground) point += step;
+    int length = 0;
+    for (; picture.pixel(point) == Black; point += step) ++length;
+    return picture.pixel(point) == Ground ? length : 0;
+}
+
+/// Run at the usual device pixel ratios.
 TEST_F(BoardViewTest, LinesAreExact) {
     const QImage picture = Picture();
-    const int ratio = qRound(picture.devicePixelRatio());
+    const double ratio = picture.devicePixelRatio();
     const QPoint right(1, 0);
     const QPoint down(0, 1);
     struct Case {
@@ -45,7 +45,7 @@ TEST_F(BoardViewTest, LinesAreExact) {
         {"message frame", {620, 450}, right, 1},
     };
     for (const Case& c : Cases) {
-        EXPECT_EQ(BlackRun(picture, c.Start, c.Step), c.Width * ratio) << c.Name;
+        EXPECT_EQ(BlackRun(picture, c.Start, c.Step), qRound(c.Width * ratio)) << c.Name;
     }
 }
 

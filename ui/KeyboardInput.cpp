@@ -87,7 +87,8 @@ bool KeyboardInput::Handle(const QKeyEvent& event) {
     if (binding == std::end(Bindings) || (event.modifiers() & Foreign)) return false;
     if (event.isAutoRepeat() && !binding->Repeats) return true;
     Mouse->Cancel();
-    Marks.IsShown = true;
+    // Escape may only end a drag of the mouse.
+    if (event.key() != Qt::Key_Escape) Marks.IsShown = true;
     binding->Action(*this);
     ShowMarks();
     return true;

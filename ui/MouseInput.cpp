@@ -10,6 +10,10 @@ namespace brastel {
 
 namespace {
 
+/// Device pixels of the outline can lie beside its logical ones, where one is no whole number of the
+/// others.
+constexpr int OutlineMargin = 1;
+
 /// The moving outline of a dragged piece. A widget of its own, above the controls too, so that Qt
 /// repaints what it leaves behind.
 class DragOutline : public QWidget {
@@ -17,14 +21,14 @@ public:
     explicit DragOutline(QWidget* parent) : QWidget(parent) {
         setObjectName("DragOutline");
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        resize(CellSize, CellSize);
+        resize(CellSize + 2 * OutlineMargin, CellSize + 2 * OutlineMargin);
         hide();
     }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        PaintOutline(painter, rect());
+        PaintOutline(painter, rect().marginsRemoved(QMargins() + OutlineMargin));
     }
 };
 
@@ -125,7 +129,7 @@ void MouseInput::Release(const QMouseEvent& event) {
 }
 
 void MouseInput::ShowOutline(QPoint pointer) {
-    Outline->move(pointer - Grip);
+    Outline->move(pointer - Grip - QPoint(OutlineMargin, OutlineMargin));
     Outline->raise();
     Outline->show();
 }
