@@ -10,8 +10,8 @@ namespace brastel {
 
 namespace {
 
-/// Device pixels of the outline can lie beside its logical ones, where one is no whole number of the
-/// others.
+/// Device pixels of the outline can lie beside its logical ones, where one is no whole number of
+/// the others.
 constexpr int OutlineMargin = 1;
 
 /// The moving outline of a dragged piece. A widget of its own, above the controls too, so that Qt
