@@ -196,6 +196,24 @@ TEST_F(AccessibilityTest, SquaresCanBePressed) {
     EXPECT_EQ(Pos.MoveCount, 4);
 }
 
+TEST_F(AccessibilityTest, DialogsCanBeRead) {
+    ChooseAndAnswer("mnu_Help", "mnu_Rules", {[](QWidget& dialog) {
+                        const QString rules = QAccessible::queryAccessibleInterface(&dialog)->text(
+                            QAccessible::Description);
+                        EXPECT_TRUE(rules.startsWith("1. The first player"));
+                        dialog.close();
+                    }});
+    ChooseAndAnswer("mnu_Options", "mnuFileItem2", {[](QWidget& dialog) {
+                        for (const char* control :
+                             {"txtOpenSave", "filOpenSave", "dirOpenSave", "drvOpenSave"}) {
+                            auto* widget = dialog.findChild<QWidget*>(control);
+                            EXPECT_NE(NameOf(QAccessible::queryAccessibleInterface(widget)), "")
+                                << control;
+                        }
+                        ClickIn(dialog, "cmdOpenSave1");
+                    }});
+}
+
 /// Calls of assistive technology are no events, so they reach the board even where mouse and
 /// keyboard do not.
 TEST_F(AccessibilityTest, SquaresCannotBePressedAtTheWrongTime) {

@@ -25,6 +25,13 @@ TEST_F(MainWindowTest, TheFirstWindowIsAnEmptyFreeSetup) {
     EXPECT_EQ(Pos.MoveCount, 1) << "there is nobody to play for yet";
 }
 
+/// The window is larger than the screen of these tests.
+TEST_F(MainWindowTest, ASmallScreenHasTheTitleBarAndMenuOnIt) {
+    const QRect screen = Window.screen()->availableGeometry();
+    ASSERT_GT(Window.width(), screen.width());
+    EXPECT_EQ(Window.frameGeometry().topLeft(), screen.topLeft());
+}
+
 TEST_F(MainWindowTest, ThePieceNumberDialogChangesTheLayout) {
     const std::pair<const char*, int> Choices[] = {{"btn_GameSize3", 8}, {"btn_GameSize5", 12},
                                                    {"btn_GameSize0", 2}, {"btn_OK", 2},

@@ -87,6 +87,9 @@ void FileDialog::BuildControls() {
     AddLabel(this, NameLabel, txtOpenSave);
     AddLabel(this, FolderLabel, dirOpenSave);
     AddLabel(this, DriveLabel, drvOpenSave);
+    // Lists do not take the name of their label.
+    filOpenSave->setAccessibleName("ﾌｧｲﾙ");
+    dirOpenSave->setAccessibleName("ﾃﾞｨﾚｸﾄﾘ");
     filOpenSave->setUniformItemSizes(true);
     dirOpenSave->setUniformItemSizes(true);
 }

@@ -82,6 +82,12 @@ constexpr const char* RulesText[] = {
 };
 // clang-format on
 
+QString WholeText() {
+    QStringList lines;
+    for (const char* line : RulesText) lines.append(line);
+    return lines.join(' ').simplified();
+}
+
 }  // namespace
 
 RulesWindow::RulesWindow() {
@@ -95,6 +101,8 @@ RulesWindow::RulesWindow() {
     button->setFont(JapaneseFont(ButtonPoints));
     button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
+    // Painted text is none to a screen reader.
+    setAccessibleDescription(WholeText());
     CentreOnScreen(*this);
 }
 

@@ -1,0 +1,138 @@
+/// Plays whole games in the real window and prints the longest times in which it did not answer:
+/// while the computer searched, and otherwise.
+
+#include "core/StartPosition.h"
+#include "engine/Candidates.h"
+#include "engine/MoveCode.h"
+#include "engine/Random.h"
+#include "engine/Strengths.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
+#include "play/HumanAction.h"
+#include "ui/MainWindow.h"
+
+#include <QApplication>
+#include <QElapsedTimer>
+#include <QTimer>
+
+#include <charconv>
+#include <cstdio>
+#include <random>
+#include <string_view>
+#include <vector>
+
+namespace {
+
+using namespace brastel;
+
+constexpr const char* Usage = R"(Usage: window_bench [LEVEL...]
+
+Plays 20 games at each LEVEL, 1 to 11 (1, 6 and 11 if none is given), in the real window: Red is
+moved by a player who looks at the next move only, and the computer answers. Prints the longest
+times in milliseconds in which the window handled no event. Needs a display, or
+QT_QPA_PLATFORM=offscreen.
+)";
+
+constexpr int GamesPerLevel = 20;
+constexpr int StandardLayout = 3;
+
+/// A pulse that beats whenever the window handles events. Two beats further apart than usual are a
+/// time in which it did not answer.
+class Pulse {
+public:
+    Pulse() {
+        Clock.start();
+        Timer.setTimerType(Qt::PreciseTimer);
+        Timer.callOnTimeout([this] { Beat(); });
+        Timer.start(0);
+    }
+
+    void Forget() { LongestSearch = LongestElse = 0; }
+
+    double LongestSearch = 0;
+    double LongestElse = 0;
+
+private:
+    /// The pause before a search handles events, so a gap that begins and ends in thought is one.
+    void Beat() {
+        const double gap = static_cast<double>(Clock.nsecsElapsed()) * 1e-6;
+        Clock.start();
+        double& longest = WasThinking ? LongestSearch : LongestElse;
+        longest = std::max(longest, gap);
+        WasThinking = IsThinking;
+    }
+
+    QElapsedTimer Clock;
+    QTimer Timer;
+    bool WasThinking = false;
+};
+
+/// Red's moves, among the best of the next move so that no two games are the same.
+std::mt19937 Dice;
+
+/// Drops a piece as the mouse would; a goal entry is no drop.
+void PlayByHand() {
+    GenerateMoves(1);
+    SortCandidates(1);
+    std::vector<MoveCode> drops;
+    for (int n = 1; n <= CandidateCount[1] && drops.size() < 3; ++n) {
+        if (InField(DestinationOf(MoveList[1][n]))) drops.push_back(MoveList[1][n]);
+    }
+    if (drops.empty()) return ShowStatus(BlankText);
+    const MoveCode drop = drops[Dice() % drops.size()];
+    const Piece piece = PieceOn(OriginOf(drop));
+    const int to = DestinationOf(drop);
+    const Piece target = PieceOn(to);
+    if (target) return DropOnPiece(piece, target);
+    DropOnBoard(piece, SquareLeft(to), SquareTop(to));
+}
+
+int PlayGame(MainWindow& window, Int16 level) {
+    SelectStartLayout(StandardLayout);
+    window.OpenMainWindow();
+    SetLevel(level);
+    DoubleClickPiece({Red, ToInt16(1 + Dice() % 8)});
+    int before = 0;
+    while (GameOver == False && !IsRecordFull() && Pos.MoveCount != before) {
+        before = Pos.MoveCount;
+        QTimer::singleShot(0, &window, PlayByHand);
+        for (int n = 0; n < 3; ++n) QCoreApplication::processEvents();
+    }
+    return Pos.MoveCount - 1;
+}
+
+std::vector<Int16> LevelsFrom(int count, char** texts) {
+    std::vector<Int16> levels;
+    for (int n = 1; n < count; ++n) {
+        const std::string_view text = texts[n];
+        Int16 level = 0;
+        const auto [end, error] = std::from_chars(text.begin(), text.end(), level);
+        if (error != std::errc() || end != text.end() || level < 1 || level > MaxPly) return {};
+        levels.push_back(level);
+    }
+    return levels;
+}
+
+}  // namespace
+
+int main(int argc, char** argv) {
+    const std::vector<Int16> levels =
+        argc == 1 ? std::vector<Int16>{1, 6, 11} : LevelsFrom(argc, argv);
+    if (levels.empty()) {
+        std::fputs(Usage, stderr);
+        return 2;
+    }
+    const QApplication application(argc, argv);
+    MainWindow window;
+    Pulse pulse;
+    std::puts("level  games  entries  longest search, ms  longest otherwise, ms");
+    for (const Int16 level : levels) {
+        Dice.seed(1);
+        pulse.Forget();
+        int entries = 0;
+        for (int n = 0; n < GamesPerLevel; ++n) entries += PlayGame(window, level);
+        std::printf("%5d  %5d  %7d  %18.1f  %21.1f\n", level, GamesPerLevel, entries,
+                    pulse.LongestSearch, pulse.LongestElse);
+        std::fflush(stdout);
+    }
+}
