@@ -8,6 +8,7 @@ TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-uti
     dbus-daemon libglib2.0-bin python3-pyatspi)
 CheckPackages=(clang-format clang-tidy)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
+IconPackages=(librsvg2-bin)
 
 # Asks for the password only where somebody can type it.
 may_use_sudo() {
