@@ -29,6 +29,8 @@ int main(int /*argc*/, char* argv[]) {
     const QtMessageHandler usual = qInstallMessageHandler(ReportMissingDisplay);
     const QApplication application(count, name);
     qInstallMessageHandler(usual);
+    // By this name docks find the desktop entry, and with it the icon.
+    QGuiApplication::setDesktopFileName("org.brastel.Brastel");
     // The window is hidden while a dialog stands in for it.
     QApplication::setQuitOnLastWindowClosed(false);
 

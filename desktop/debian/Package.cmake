@@ -1,0 +1,34 @@
+# What `cpack -G DEB` makes of the installed files. scripts/package calls it, with the preset `package`.
+string(REGEX REPLACE "^[a-z]+://" "" Host "${BRASTEL_WEBSITE}")
+set(CPACK_GENERATOR DEB)
+set(CPACK_PACKAGE_NAME brastel)
+set(CPACK_PACKAGE_CONTACT "The Brastel developers <developers@${Host}>")
+set(CPACK_PACKAGE_HOMEPAGE_URL ${BRASTEL_WEBSITE})
+set(CPACK_STRIP_FILES ON)
+set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
+    OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
+
+set(CPACK_DEBIAN_FILE_NAME DEB-DEFAULT)
+set(CPACK_DEBIAN_PACKAGE_SECTION games)
+# The file dialog and its messages are Japanese. Everything else that is needed, foremost Qt, is
+# found by looking at the programs.
+set(CPACK_DEBIAN_PACKAGE_DEPENDS "fonts-ipafont-gothic | fonts-japanese-gothic")
+set(CPACK_DEBIAN_PACKAGE_SHLIBDEPS ON)
+set(CPACK_DEBIAN_PACKAGE_RECOMMENDS qt6-wayland)
+set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "board game of pushing pieces and passing rings")
+set(CPACK_PACKAGE_DESCRIPTION
+"Brastel plays the Orvel Game: two sides, Red and Blue, on a board of 14 by 8
+squares. Pieces step, slide, hit and push; two rings are passed from piece to
+piece. The side whose ring carrier stands before the enemy goal, where nobody
+can push it away, wins.
+
+One person plays against the computer, at eleven strengths, or two people share
+the screen. There are six start layouts, a free setup, hints and stepping back;
+games are saved as small text files.")
+
+# Debian wants manual pages and change logs compressed, and a change log of its own.
+configure_file(debian/changelog.in debian/changelog @ONLY)
+configure_file(debian/Finish.cmake.in debian/Finish.cmake @ONLY)
+set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/debian/Finish.cmake)
+
+include(CPack)
