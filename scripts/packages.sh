@@ -9,6 +9,8 @@ TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-uti
 CheckPackages=(clang-format clang-tidy)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
 IconPackages=(librsvg2-bin)
+PackagingPackages=(dpkg-dev file desktop-file-utils appstream mandoc lintian hicolor-icon-theme)
+CleanRootPackages=(mmdebstrap uidmap openbox x11-utils)
 
 # Asks for the password only where somebody can type it.
 may_use_sudo() {
