@@ -1,10 +1,9 @@
 # The newest release in CHANGELOG.md, the one place where its date and its changes are told:
-#   ReleaseDate      2026-11-23
-#   ReleaseMailDate  Mon, 23 Nov 2026 00:00:00 +0000
-#   ReleaseChanges   an AppStream list, an item for each change
+#   ReleaseDate     2026-11-23
+#   ReleaseChanges  an AppStream list, an item for each change
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
 file(READ ${PROJECT_SOURCE_DIR}/CHANGELOG.md Changelog)
-if(NOT Changelog MATCHES "\n## ([0-9.]+) - ([0-9-]+)\n+([^#]*)")
+if(NOT Changelog MATCHES "\n## ([0-9.]+) - ([0-9-]+)\n+(.*)")
     message(FATAL_ERROR "CHANGELOG.md has no line like \"## 1.0.0 - 2026-11-23\"")
 endif()
 set(ReleaseVersion ${CMAKE_MATCH_1})
@@ -15,6 +14,7 @@ if(NOT ReleaseVersion VERSION_EQUAL PROJECT_VERSION)
                         "but CMakeLists.txt calls the project ${PROJECT_VERSION}")
 endif()
 
+string(REGEX REPLACE "\n## .*" "" ReleaseChanges "${ReleaseChanges}")
 string(REPLACE "&" "&amp;" ReleaseChanges "${ReleaseChanges}")
 string(REPLACE "<" "&lt;" ReleaseChanges "${ReleaseChanges}")
 string(REPLACE ">" "&gt;" ReleaseChanges "${ReleaseChanges}")
@@ -22,7 +22,3 @@ string(REPLACE "\n  " " " ReleaseChanges "${ReleaseChanges}")
 string(REGEX REPLACE "- ([^\n]*)\n+" "          <li>\\1</li>\n"
     ReleaseChanges "${ReleaseChanges}")
 string(STRIP "${ReleaseChanges}" ReleaseChanges)
-
-execute_process(
-    COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C date -u -d ${ReleaseDate} "+%a, %d %b %Y %T %z"
-    OUTPUT_VARIABLE ReleaseMailDate OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)

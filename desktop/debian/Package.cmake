@@ -1,4 +1,8 @@
 # What `cpack -G DEB` makes of the installed files. scripts/package calls it, with the preset `package`.
+find_program(DPKG dpkg)
+if(NOT DPKG)
+    return()
+endif()
 string(REGEX REPLACE "^[a-z]+://" "" Host "${BRASTEL_WEBSITE}")
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME brastel)
@@ -27,6 +31,9 @@ the screen. There are six start layouts, a free setup, hints and stepping back;
 games are saved as small text files.")
 
 # Debian wants manual pages and change logs compressed, and a change log of its own.
+execute_process(
+    COMMAND ${CMAKE_COMMAND} -E env LC_ALL=C date -u -d ${ReleaseDate} "+%a, %d %b %Y %T %z"
+    OUTPUT_VARIABLE ReleaseMailDate OUTPUT_STRIP_TRAILING_WHITESPACE COMMAND_ERROR_IS_FATAL ANY)
 configure_file(debian/changelog.in debian/changelog @ONLY)
 configure_file(debian/Finish.cmake.in debian/Finish.cmake @ONLY)
 set(CPACK_PRE_BUILD_SCRIPTS ${CMAKE_CURRENT_BINARY_DIR}/debian/Finish.cmake)
