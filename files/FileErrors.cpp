@@ -1,6 +1,8 @@
 #include "files/FileErrors.h"
 
+#include <array>
 #include <cerrno>
+#include <cstddef>
 
 namespace brastel {
 
@@ -29,6 +31,22 @@ FileError FileErrorFromSystem(int systemError) {
         default:
             return FileError::SystemFailure;
     }
+}
+
+std::string_view FileErrorInWords(FileError error) {
+    constexpr std::array<std::string_view, 10> Words{
+        "",
+        "there is no such file",
+        "the path cannot be followed, or the file may not be opened",
+        "the file ends before its last value",
+        "this is no number",
+        "a number beyond -32768 to 32767",
+        "a count larger than its table",
+        "the disk is full",
+        "not an ordinary file",
+        "the system failed while reading or writing",
+    };
+    return Words[static_cast<std::size_t>(error)];
 }
 
 std::string FileErrorText(FileError error) {

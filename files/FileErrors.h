@@ -1,6 +1,7 @@
 #pragma once
 
 #include <string>
+#include <string_view>
 
 namespace brastel {
 
@@ -26,6 +27,9 @@ enum class FileError {
 
 /// The cause behind a system error number (errno) of opening, reading or writing a file.
 FileError FileErrorFromSystem(int systemError);
+
+/// What the error means, in a few English words. FORMAT.md has more.
+std::string_view FileErrorInWords(FileError error);
 
 /// The text of the error box: a fixed sentence with the number right behind it.
 std::string FileErrorText(FileError error);

@@ -3,7 +3,6 @@
 #include "core/StartPosition.h"
 #include "files/FileView.h"
 #include "files/NumberFile.h"
-#include "play/GameRecord.h"
 
 #include <filesystem>
 
@@ -55,60 +54,81 @@ bool MayWrite(const std::string& path) {
 
 // ---- Reading: each value goes straight to its place, so that those before an error stay ----
 
+GameReading Failure(FileError error, std::string_view cause, std::int64_t line) {
+    return {error, cause, line, {}};
+}
+
+/// What the reader itself met with; without an error if all is well.
+GameReading StateOf(const NumberReader& file) {
+    return Failure(file.Error(), FileErrorInWords(file.Error()), file.Line());
+}
+
+bool IsGood(const GameReading& reading) { return reading.Error == FileError::None; }
+
+/// A count and the line on which it stands.
+struct Count {
+    Int16& Value;
+    std::int64_t Line = 0;
+};
+
 /// A negative count is no number of pieces or entries.
-FileError ReadCount(NumberReader& file, Int16& count) {
+GameReading ReadCount(NumberReader& file, Count& count) {
     Int16 value = 0;
-    if (!file.Read(value)) return file.Error();
-    if (value < 0) return FileError::OutOfRange;
-    count = value;
-    return FileError::None;
+    if (!file.Read(value)) return StateOf(file);
+    if (value < 0) return Failure(FileError::OutOfRange, "a negative count", file.Line());
+    count.Value = value;
+    count.Line = file.Line();
+    return {};
 }
 
 /// Reads entries 0 to `count`. `taken` marks the squares of pieces read so far.
-FileError ReadTable(NumberReader& file, StartTable& table, Int16 count,
-                    Table<bool, FirstSquare, LastSquare>& taken) {
-    for (int i = 0; i <= count; ++i) {
-        if (i > MaxPieces) return FileError::CountTooLarge;
+GameReading ReadTable(NumberReader& file, StartTable& table, const Count& count,
+                      Table<bool, FirstSquare, LastSquare>& taken) {
+    for (int i = 0; i <= count.Value; ++i) {
+        if (i > MaxPieces) {
+            return Failure(FileError::CountTooLarge, "more than 12 pieces of a side", count.Line);
+        }
         Int16 square = 0;
-        if (!file.Read(square)) return file.Error();
+        if (!file.Read(square)) return StateOf(file);
         if (i > 0) {
-            if (!IsOnBoard(square) || taken[square]) return FileError::OutOfRange;
+            if (!IsOnBoard(square)) {
+                return Failure(FileError::OutOfRange, "a start square off the board", file.Line());
+            }
+            if (taken[square]) {
+                return Failure(FileError::OutOfRange, "a start square used twice", file.Line());
+            }
             taken[square] = true;
         }
         table[i] = square;
     }
-    return FileError::None;
+    return {};
 }
 
-FileError ReadEntries(NumberReader& file) {
-    for (int k = 1; k <= LoadedCount; ++k) {
-        if (k > MaxEntries) return FileError::CountTooLarge;
-        if (!file.Read(LoadedFrom[k]) || !file.Read(LoadedTo[k])) return file.Error();
+GameReading ReadEntries(NumberReader& file, const Count& count) {
+    GameReading reading;
+    for (int k = 1; k <= count.Value; ++k) {
+        if (k > MaxEntries) {
+            return Failure(FileError::CountTooLarge, "more than 200 entries", count.Line);
+        }
+        if (!file.Read(LoadedFrom[k])) return StateOf(file);
+        reading.EntryLine[k] = file.Line();
+        if (!file.Read(LoadedTo[k])) return StateOf(file);
     }
-    return FileError::None;
+    return reading;
 }
 
-FileError ReadGame(NumberReader& file) {
-    if (file.Error() != FileError::None) return file.Error();
+GameReading ReadGame(NumberReader& file) {
     Table<bool, FirstSquare, LastSquare> taken;
-    FileError error = ReadCount(file, Pos.RedCount);
-    if (error == FileError::None) error = ReadCount(file, Pos.BlueCount);
-    if (error == FileError::None) error = ReadTable(file, RedStart, Pos.RedCount, taken);
-    if (error == FileError::None) error = ReadTable(file, BlueStart, Pos.BlueCount, taken);
-    if (error == FileError::None) error = ReadCount(file, LoadedCount);
-    if (error == FileError::None) error = ReadEntries(file);
-    return error;
-}
-
-void ReadGameFile(const std::string& path) {
-    NumberReader file(path);
-    const FileError error = ReadGame(file);
-    TakeLoadedGame();
-    if (error == FileError::None) {
-        LoadedFileName = path;
-    } else {
-        ReportFileError(error);
-    }
+    Count red{Pos.RedCount};
+    Count blue{Pos.BlueCount};
+    Count entries{LoadedCount};
+    GameReading reading = StateOf(file);
+    if (IsGood(reading)) reading = ReadCount(file, red);
+    if (IsGood(reading)) reading = ReadCount(file, blue);
+    if (IsGood(reading)) reading = ReadTable(file, RedStart, red, taken);
+    if (IsGood(reading)) reading = ReadTable(file, BlueStart, blue, taken);
+    if (IsGood(reading)) reading = ReadCount(file, entries);
+    return IsGood(reading) ? ReadEntries(file, entries) : reading;
 }
 
 }  // namespace
@@ -119,12 +139,23 @@ void SaveGameFile(const std::string& path) {
     if (error != FileError::None) ReportFileError(error);
 }
 
+GameReading ReadGameFile(const std::string& path) {
+    NumberReader file(path);
+    const bool isOpen = file.Error() == FileError::None;
+    GameReading reading = ReadGame(file);
+    if (!isOpen) reading.Line = 0;
+    TakeLoadedGame();
+    return reading;
+}
+
 void LoadGameFile(const std::string& path) {
     FileWindows->CloseMainWindow();
     if (path == LoadedFileName) {
         BranchMark = 0;
+    } else if (const FileError error = ReadGameFile(path).Error; error != FileError::None) {
+        ReportFileError(error);
     } else {
-        ReadGameFile(path);
+        LoadedFileName = path;
     }
     FileWindows->OpenMainWindow();
 }

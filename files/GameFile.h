@@ -1,6 +1,11 @@
 #pragma once
 
+#include "files/FileErrors.h"
+#include "play/GameRecord.h"
+
+#include <cstdint>
 #include <string>
+#include <string_view>
 
 /// Games saved as text files. FORMAT.md beside this file describes them.
 namespace brastel {
@@ -12,6 +17,22 @@ extern std::string LoadedFileName;
 /// existing file. A failure is shown to the user and can leave a part of the file behind; the game
 /// is untouched. `path` is UTF-8 and may be relative to the working folder.
 void SaveGameFile(const std::string& path);
+
+/// How the reading of a game file went.
+struct GameReading {
+    FileError Error = FileError::None;
+    /// What is wrong, in a few words without a full stop; empty when nothing is.
+    std::string_view Cause;
+    /// Where in the file it is wrong, from 1; for a count too large that of the count. 0 when the
+    /// file could not be opened.
+    std::int64_t Line = 0;
+    /// The lines on which the entries read begin.
+    Table<std::int64_t, 0, MaxEntries> EntryLine;
+};
+
+/// Reads a game into the counts, the start tables and the loaded record; what was read before a
+/// failure stays. The position is not set up. `path` is UTF-8 and may be relative.
+GameReading ReadGameFile(const std::string& path);
 
 /// Reads a game into the start tables and the loaded record, between taking the main window down
 /// and building it again. The file read last is not read again. A failure is shown to the user;

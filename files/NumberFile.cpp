@@ -96,9 +96,18 @@ bool NumberReader::Fail(FileError error) {
     return false;
 }
 
+/// A line feed right behind a carriage return belongs to it.
+void NumberReader::CountLineEnd(int byte) {
+    if (byte == '\r' || (byte == '\n' && LastSeparator != '\r')) ++CurrentLine;
+    LastSeparator = byte;
+}
+
 bool NumberReader::SkipSeparators() {
-    while (IsSeparator(Peek())) ++Used;
-    return Peek() != EndOfData || Fail(FileError::EndOfFile);
+    LastSeparator = 0;
+    for (; IsSeparator(Peek()); ++Used) CountLineEnd(Peek());
+    if (Peek() == EndOfData) return Fail(FileError::EndOfFile);
+    ValueLine = CurrentLine;
+    return true;
 }
 
 bool NumberReader::Read(Int16& value) {

@@ -5,6 +5,7 @@
 
 #include <array>
 #include <cstddef>
+#include <cstdint>
 #include <string>
 
 /// Text files of 16-bit numbers.
@@ -27,12 +28,17 @@ public:
     /// `value` unchanged, on the first error and ever after.
     bool Read(Int16& value);
 
+    /// The line, from 1, of the value read last or of what is no value; at the end of the data that
+    /// of the last value. Lines end as in any editor: by line feed, carriage return or both.
+    std::int64_t Line() const { return ValueLine; }
+
 private:
     static constexpr int EndOfData = -1;
 
     /// The next byte, or EndOfData at the end and on errors.
     int Peek();
     bool Fail(FileError error);
+    void CountLineEnd(int byte);
     bool SkipSeparators();
 
     std::array<unsigned char, 4096> Buffer{};
@@ -40,6 +46,9 @@ private:
     std::size_t Filled = 0;
     int File = -1;
     FileError Failure = FileError::None;
+    std::int64_t CurrentLine = 1;
+    std::int64_t ValueLine = 1;
+    int LastSeparator = 0;
 };
 
 /// A number as files hold it: a sign column (a space unless negative), the digits, a space.
