@@ -32,10 +32,6 @@ Piece PieceIn(const Position& position, int square) {
 
 // ---- Places ----
 
-constexpr bool IsGoalMouth(int square) {
-    return square == 4 || square == 5 || square == 108 || square == 109;
-}
-
 std::string PlacePrefix(int square) {
     if (InField(square)) return {};
     return IsGoalMouth(square) ? "goal, " : "outside, ";

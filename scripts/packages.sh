@@ -7,6 +7,8 @@ VirtualDisplayPackages=(xvfb xdotool imagemagick)
 TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-utils at-spi2-core
     dbus-daemon libglib2.0-bin python3-pyatspi)
 CheckPackages=(clang-format clang-tidy)
+# For the programs beside the game.
+ToolPackages=(libcli11-dev)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
 IconPackages=(librsvg2-bin)
 PackagingPackages=(dpkg-dev file desktop-file-utils appstream mandoc lintian hicolor-icon-theme)

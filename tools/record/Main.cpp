@@ -1,0 +1,204 @@
+/// Checks record files, tells their games in words and draws their positions.
+
+#include "files/NumberFile.h"
+#include "play/GameRecord.h"
+#include "tools/Interrupt.h"
+#include "tools/ReadNumber.h"
+#include "tools/record/Report.h"
+#include "tools/record/SvgBoard.h"
+
+#include <CLI/CLI.hpp>
+#include <cerrno>
+#include <cstdio>
+#include <cstring>
+#include <filesystem>
+
+namespace {
+
+using namespace brastel;
+
+constexpr int AllRight = 0;
+constexpr int FoundFault = 1;
+constexpr int CannotDo = 2;
+constexpr int WasInterrupted = 130;
+
+constexpr const char* Description =
+    "Checks record files of Brastel, the files that Options > Save Game writes: whether they can "
+    "be "
+    "read and whether every entry keeps the rules. Tells games in words and draws their positions.";
+
+constexpr const char* Examples = R"(Examples:
+  brastel-record game.txt                        is everything in order?
+  brastel-record games/*.txt | grep ' breaks '   which games break the rules?
+  brastel-record --moves game.txt | less         the game in words
+  brastel-record --at 37 game.txt                the position after 37 entries
+  brastel-record --at end --svg -o end.svg game.txt
+
+Status: 0 if all is right; 1 if a file is damaged or an entry breaks the rules; 2 for bad arguments
+and for files that cannot be read or written; 130 after an interrupt.)";
+
+struct Options {
+    std::vector<std::string> Files;
+    bool Moves = false;
+    std::string At;
+    bool Svg = false;
+    std::string Output;
+    bool Force = false;
+};
+
+void Complain(const std::string& words) {
+    std::fprintf(stderr, "brastel-record: %s\n", words.c_str());
+}
+
+// ---- Arguments ----
+
+std::string CheckAt(const std::string& text) {
+    if (text == "end" || ReadNumber(text, 0, MaxEntries)) return {};
+    return "\"" + text + "\" is neither a number from 0 to " + std::to_string(MaxEntries) +
+           " nor \"end\"";
+}
+
+void Declare(CLI::App& app, Options& options) {
+    app.add_option("FILE", options.Files, "record files to be read")->required();
+    auto* moves = app.add_flag("--moves", options.Moves, "tell the game entry by entry in words");
+    auto* at = app.add_option("--at", options.At,
+                              "draw the position after N entries (0: the start; end: the last)");
+    at->type_name("N")->check(CheckAt)->excludes(moves);
+    app.add_flag("--svg", options.Svg, "draw as an SVG picture instead of text")->needs(at);
+    auto* output = app.add_option("-o,--output", options.Output, "write there, to a new file");
+    output->type_name("PATH");
+    app.add_flag("--force", options.Force, "overwrite an existing output file")->needs(output);
+    app.set_version_flag("--version", "brastel-record " BRASTEL_VERSION);
+    app.set_help_flag("-h,--help", "show this text");
+    app.footer(Examples);
+    app.failure_message([](const CLI::App*, const CLI::Error& error) {
+        return "brastel-record: " + std::string(error.what()) + "; see --help\n";
+    });
+}
+
+/// What the options ask for together; empty if that is possible.
+std::string FirstContradiction(const Options& options) {
+    if (!options.At.empty() && options.Files.size() > 1)
+        return "--at draws one game: name one file";
+    if (options.Output.empty()) return {};
+    std::error_code ignored;
+    if (!std::filesystem::exists(options.Output, ignored)) return {};
+    for (const std::string& file : options.Files) {
+        if (!std::filesystem::equivalent(file, options.Output, ignored)) continue;
+        return options.Output + ": that is the record itself";
+    }
+    return options.Force ? "" : options.Output + ": exists; --force overwrites it";
+}
+
+// ---- Output ----
+
+/// Gathers what is to be written to a file; otherwise prints at once.
+class Output {
+public:
+    explicit Output(std::string path) : Path(std::move(path)) {}
+
+    bool Write(const std::string& text) {
+        if (!Path.empty()) {
+            Gathered += text;
+            return true;
+        }
+        const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
+        if (isWritten && std::fflush(stdout) == 0) return true;
+        // A reader that has seen enough is no failure.
+        if (errno != EPIPE) Complain("standard output: " + std::string(std::strerror(errno)));
+        Failed = true;
+        return false;
+    }
+    bool HasFailed() const { return Failed; }
+
+    bool Finish() const {
+        if (Path.empty()) return true;
+        const FileError error = WriteTextFile(Path, Gathered);
+        if (error == FileError::None) return true;
+        Complain(Path + ": " + std::string(FileErrorInWords(error)));
+        return false;
+    }
+
+private:
+    std::string Path;
+    std::string Gathered;
+    bool Failed = false;
+};
+
+// ---- What is asked for ----
+
+int StatusOf(const RecordedGame& game) {
+    return IsUnreadable(game) ? CannotDo : game.IsLawful() ? AllRight : FoundFault;
+}
+
+std::string Picture(const Options& options, const RecordedGame& game, int entry) {
+    return options.Svg
+               ? BoardAsSvg(game.Positions[static_cast<std::size_t>(entry)], Caption(game, entry))
+               : Drawing(game, entry);
+}
+
+std::string NoSuchPosition(const RecordedGame& game, int entry) {
+    const int entries = static_cast<int>(game.Entries.size());
+    const std::string asked = "no position after entry " + std::to_string(entry) + ": ";
+    return game.Path + ": " + asked +
+           (entry > entries
+                ? "the last entry is " + std::to_string(entries)
+                : "the game cannot go on after entry " + std::to_string(game.PlayedEntries()));
+}
+
+/// A fault is told beside the drawing, not in it.
+int Draw(const Options& options, const RecordedGame& game, Output& output) {
+    const int status = StatusOf(game);
+    if (status != AllRight) std::fputs(Verdict(game).c_str(), stderr);
+    if (game.Error != FileError::None) return status;
+    const auto number = ReadNumber(options.At, 0, MaxEntries);
+    const int entry = number ? static_cast<int>(*number) : game.PlayedEntries();
+    if (entry > game.PlayedEntries()) {
+        Complain(NoSuchPosition(game, entry));
+        return CannotDo;
+    }
+    return output.Write(Picture(options, game, entry)) ? status : CannotDo;
+}
+
+int Check(const Options& options, const RecordedGame& game, Output& output) {
+    if (IsUnreadable(game)) {
+        Complain(Verdict(game));
+        return CannotDo;
+    }
+    std::string text = Verdict(game);
+    if (options.Moves) text += MovesInWords(game);
+    return output.Write(text) ? StatusOf(game) : CannotDo;
+}
+
+int Run(const Options& options) {
+    Output output(options.Output);
+    int status = AllRight;
+    for (std::size_t done = 0; done < options.Files.size(); ++done) {
+        if (Interrupted != 0 || output.HasFailed()) break;
+        const RecordedGame game = ReadRecordedGame(options.Files[done]);
+        const int found =
+            options.At.empty() ? Check(options, game, output) : Draw(options, game, output);
+        status = std::max(status, found);
+    }
+    if (!output.Finish()) status = CannotDo;
+    return Interrupted != 0 ? WasInterrupted : status;
+}
+
+}  // namespace
+
+int main(int count, char** texts) {
+    CLI::App app(Description, "brastel-record");
+    Options options;
+    Declare(app, options);
+    try {
+        app.parse(count, texts);
+    } catch (const CLI::ParseError& error) {
+        return app.exit(error) == 0 ? AllRight : CannotDo;
+    }
+    if (const std::string wrong = FirstContradiction(options); !wrong.empty()) {
+        Complain(wrong);
+        return CannotDo;
+    }
+    WatchInterrupts();
+    return Run(options);
+}

@@ -1,0 +1,126 @@
+#include "tools/record/Report.h"
+
+#include "core/WinTest.h"
+#include "play/Words.h"
+#include "tools/record/TextBoard.h"
+
+namespace brastel {
+
+namespace {
+
+constexpr int NumberWidth = 4;
+
+const Position& PositionAfter(const RecordedGame& game, int entry) {
+    return game.Positions[static_cast<std::size_t>(entry)];
+}
+
+std::string Counted(int count, std::string_view one, std::string_view many) {
+    return std::to_string(count) + ' ' + std::string(count == 1 ? one : many);
+}
+
+std::string Outcome(const RecordedGame& game) {
+    if (game.Winner == Empty) {
+        return SideInWords(game.Positions.back().SideToMove) + " to move";
+    }
+    const std::string winner = SideInWords(game.Winner);
+    const bool isLast = game.WinningEntry == static_cast<int>(game.Entries.size());
+    return isLast ? winner + " wins"
+                  : winner + " wins with entry " + std::to_string(game.WinningEntry);
+}
+
+/// The numbers as they stand in the file, for those who look there.
+std::string AsWritten(const RecordedEntry& entry) {
+    return std::to_string(entry.From) + ' ' + std::to_string(entry.To);
+}
+
+std::string NumberOf(int entry) {
+    const std::string number = std::to_string(entry);
+    return std::string(NumberWidth - std::min<std::size_t>(number.size(), NumberWidth), ' ') +
+           number + ". ";
+}
+
+/// The words name the side nearly always; then it is not told again.
+std::string WithSide(int side, const std::string& words) {
+    const std::string name = SideInWords(side);
+    return words.starts_with(name) ? words : name + ": " + words;
+}
+
+std::string EntryInWords(const RecordedGame& game, int entry) {
+    const Position& before = PositionAfter(game, entry - 1);
+    return WithSide(before.SideToMove, ChangesInWords(before, PositionAfter(game, entry)));
+}
+
+std::string FileEntryInWords(const RecordedGame& game, int entry) {
+    const RecordedEntry& broken = game.Entries[static_cast<std::size_t>(entry) - 1];
+    const std::string side = SideInWords(PositionAfter(game, entry - 1).SideToMove);
+    if (broken.From == NoSquare && broken.To == NoSquare) return side + " passes";
+    if (entry <= RingCount) return side + " places the ring on " + SquareInWords(broken.From);
+    return side + " from " + SquareInWords(broken.From) + " to " + SquareInWords(broken.To);
+}
+
+std::string BrokenLine(const RecordedGame& game) {
+    const int entry = game.BrokenEntry;
+    std::string line = NumberOf(entry) + FileEntryInWords(game, entry) + '\n';
+    line += std::string(NumberWidth + 2, ' ') + "*** breaks the rules: " + std::string(game.Cause);
+    if (game.PlayedEntries() < entry) line += "; the game cannot go on";
+    return line + '\n';
+}
+
+}  // namespace
+
+bool IsUnreadable(const RecordedGame& game) {
+    switch (game.Error) {
+        case FileError::FileNotFound:
+        case FileError::PathNotAccessible:
+        case FileError::NotAFile:
+        case FileError::SystemFailure:
+            return true;
+        default:
+            return false;
+    }
+}
+
+std::string Verdict(const RecordedGame& game) {
+    const std::string cause = std::string(game.Cause) + '\n';
+    if (IsUnreadable(game)) return game.Path + ": " + cause;
+    const std::string place = game.Path + ':' + std::to_string(game.Line) + ": ";
+    if (game.Error != FileError::None) {
+        return place + "error " + std::to_string(static_cast<int>(game.Error)) + ": " + cause;
+    }
+    if (game.BrokenEntry != 0) {
+        const auto& entry = game.Entries[static_cast<std::size_t>(game.BrokenEntry) - 1];
+        return place + "entry " + std::to_string(game.BrokenEntry) + " (" + AsWritten(entry) +
+               ") breaks the rules: " + cause;
+    }
+    const int entries = static_cast<int>(game.Entries.size());
+    return game.Path + ": " + Counted(entries, "entry", "entries") + ", " + Outcome(game) + '\n';
+}
+
+std::string MovesInWords(const RecordedGame& game) {
+    std::string text;
+    for (int entry = 1; entry <= game.PlayedEntries(); ++entry) {
+        text += entry == game.BrokenEntry ? BrokenLine(game)
+                                          : NumberOf(entry) + EntryInWords(game, entry) + '\n';
+        if (entry != game.WinningEntry) continue;
+        text += std::string(NumberWidth + 2, ' ') + SideInWords(game.Winner) + " wins\n";
+    }
+    if (game.BrokenEntry > game.PlayedEntries()) text += BrokenLine(game);
+    return text;
+}
+
+std::string Caption(const RecordedGame& game, int entry) {
+    Pos = PositionAfter(game, entry);
+    const Int16 winner = BothRingsPlaced() && entry > RingCount ? FindWinner() : Empty;
+    const std::string state = winner != Empty     ? SideInWords(winner) + " wins"
+                              : entry < RingCount ? SideInWords(Pos.SideToMove) + " places its ring"
+                                                  : SideInWords(Pos.SideToMove) + " to move";
+    return (entry == 0 ? "At the start: " : "After entry " + std::to_string(entry) + ": ") + state;
+}
+
+std::string Drawing(const RecordedGame& game, int entry) {
+    std::string text = Caption(game, entry) + '\n';
+    if (entry > 0) text += EntryInWords(game, entry) + '\n';
+    return text + '\n' + BoardAsText(PositionAfter(game, entry));
+}
+
+}  // namespace brastel

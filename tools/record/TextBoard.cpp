@@ -1,0 +1,82 @@
+#include "tools/record/TextBoard.h"
+
+#include "play/Words.h"
+
+namespace brastel {
+
+namespace {
+
+/// Room for a carrier with two digits: "(R12)".
+constexpr int CellWidth = 5;
+constexpr int LabelWidth = 3;
+
+std::string Aligned(const std::string& text, int width) {
+    const int missing = width - static_cast<int>(text.size());
+    return std::string(static_cast<std::size_t>(std::max(missing, 0)), ' ') + text;
+}
+
+std::string CellText(int square) {
+    const Piece piece = PieceOn(square);
+    const bool hasRing = IsRingSquare(square);
+    if (!piece && !hasRing) return InField(square) ? ".  " : IsGoalMouth(square) ? "goal" : "";
+    std::string text(hasRing ? "(" : "");
+    text += !piece ? ' ' : piece.Side == Red ? 'R' : 'B';
+    if (piece) text += std::to_string(piece.Index);
+    return text + (hasRing ? ')' : ' ');
+}
+
+/// A line of the board whose cells are as given, with the field's borders between.
+template <typename Cell>
+std::string Line(const std::string& label, char border, Cell cell) {
+    std::string line = Aligned(label, LabelWidth);
+    for (int column = 0; column < ColumnCount; ++column) {
+        if (column == 1 || column == ColumnCount - 1) line += border;
+        line += Aligned(cell(column), CellWidth);
+    }
+    line.erase(line.find_last_not_of(' ') + 1);
+    return line + '\n';
+}
+
+/// A line across the field, all of it or open before the goal.
+std::string Rule(bool hasGap) {
+    return Line("", '+', [hasGap](int column) {
+        const bool isInField = column >= 1 && column < ColumnCount - 1;
+        const bool isOpen = hasGap && (column == 3 || column == 4);
+        return isInField && !isOpen ? std::string(CellWidth, '-') : std::string();
+    });
+}
+
+std::string ColumnNumbers() {
+    return Line("", ' ', [](int column) { return std::to_string(column + 1) + "  "; });
+}
+
+std::string RowText(int row) {
+    const bool isInField = row >= 1 && row < RowCount - 1;
+    return Line(std::to_string(row + 1), isInField ? '|' : ' ',
+                [row](int column) { return CellText(SquareAt(row, column)); });
+}
+
+std::string WaitingPieces() {
+    std::string text;
+    for (int square = FirstSquare; square <= LastSquare; ++square) {
+        if (InField(square) || Pos.Board[square] == Empty) continue;
+        text += "Outside: " + PieceInWords(PieceOn(square)) + " on " + SquareInWords(square) + '\n';
+    }
+    return text;
+}
+
+}  // namespace
+
+std::string BoardAsText(const Position& position) {
+    Pos = position;
+    std::string text = ColumnNumbers();
+    for (int row = 0; row < RowCount; ++row) {
+        if (row == 1 || row == RowCount - 1) text += Rule(true);
+        if (row == RowCount / 2) text += Rule(false);
+        text += RowText(row);
+    }
+    text += "\nR Red, B Blue, (R1) (B1) carry a ring\n";
+    return text + WaitingPieces();
+}
+
+}  // namespace brastel
