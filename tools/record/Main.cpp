@@ -23,9 +23,9 @@ constexpr int CannotDo = 2;
 constexpr int WasInterrupted = 130;
 
 constexpr const char* Description =
-    "Checks record files of Brastel, the files that Options > Save Game writes: whether they can "
-    "be "
-    "read and whether every entry keeps the rules. Tells games in words and draws their positions.";
+    R"(Checks record files of Brastel, which Options > Save Game writes: whether they can be read and
+whether every entry keeps the rules. Tells games in words and draws their positions.
+)";
 
 constexpr const char* Examples = R"(Examples:
   brastel-record game.txt                        is everything in order?
@@ -35,7 +35,8 @@ constexpr const char* Examples = R"(Examples:
   brastel-record --at end --svg -o end.svg game.txt
 
 Status: 0 if all is right; 1 if a file is damaged or an entry breaks the rules; 2 for bad arguments
-and for files that cannot be read or written; 130 after an interrupt.)";
+and for files that cannot be read or written; 130 after an interrupt.
+)";
 
 struct Options {
     std::vector<std::string> Files;
@@ -58,17 +59,19 @@ std::string CheckAt(const std::string& text) {
            " nor \"end\"";
 }
 
+std::string CheckOutput(const std::string& path) { return path.empty() ? "names no file" : ""; }
+
 void Declare(CLI::App& app, Options& options) {
-    app.add_option("FILE", options.Files, "record files to be read")->required();
+    app.add_option("FILE", options.Files, "record files to be read")->required()->type_name("");
     auto* moves = app.add_flag("--moves", options.Moves, "tell the game entry by entry in words");
     auto* at = app.add_option("--at", options.At,
                               "draw the position after N entries (0: the start; end: the last)");
     at->type_name("N")->check(CheckAt)->excludes(moves);
     app.add_flag("--svg", options.Svg, "draw as an SVG picture instead of text")->needs(at);
     auto* output = app.add_option("-o,--output", options.Output, "write there, to a new file");
-    output->type_name("PATH");
+    output->type_name("PATH")->check(CheckOutput);
     app.add_flag("--force", options.Force, "overwrite an existing output file")->needs(output);
-    app.set_version_flag("--version", "brastel-record " BRASTEL_VERSION);
+    app.set_version_flag("--version", "brastel-record " BRASTEL_VERSION, "show the version");
     app.set_help_flag("-h,--help", "show this text");
     app.footer(Examples);
     app.failure_message([](const CLI::App*, const CLI::Error& error) {
@@ -97,22 +100,23 @@ class Output {
 public:
     explicit Output(std::string path) : Path(std::move(path)) {}
 
-    bool Write(const std::string& text) {
+    void Write(const std::string& text) {
         if (!Path.empty()) {
             Gathered += text;
-            return true;
+            return;
         }
         const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
-        if (isWritten && std::fflush(stdout) == 0) return true;
-        // A reader that has seen enough is no failure.
-        if (errno != EPIPE) Complain("standard output: " + std::string(std::strerror(errno)));
+        if (isWritten && std::fflush(stdout) == 0) return;
+        // A reader that has seen enough is no failure, and an interrupt is told elsewhere.
+        const bool isQuiet = errno == EPIPE || Interrupted != 0;
+        if (!isQuiet) Complain("standard output: " + std::string(std::strerror(errno)));
         Failed = true;
-        return false;
     }
     bool HasFailed() const { return Failed; }
 
+    /// Where nothing could be drawn or told, an old file stays as it is.
     bool Finish() const {
-        if (Path.empty()) return true;
+        if (Gathered.empty()) return true;
         const FileError error = WriteTextFile(Path, Gathered);
         if (error == FileError::None) return true;
         Complain(Path + ": " + std::string(FileErrorInWords(error)));
@@ -126,10 +130,6 @@ private:
 };
 
 // ---- What is asked for ----
-
-int StatusOf(const RecordedGame& game) {
-    return IsUnreadable(game) ? CannotDo : game.IsLawful() ? AllRight : FoundFault;
-}
 
 std::string Picture(const Options& options, const RecordedGame& game, int entry) {
     return options.Svg
@@ -146,42 +146,46 @@ std::string NoSuchPosition(const RecordedGame& game, int entry) {
                 : "the game cannot go on after entry " + std::to_string(game.PlayedEntries()));
 }
 
-/// A fault is told beside the drawing, not in it.
 int Draw(const Options& options, const RecordedGame& game, Output& output) {
-    const int status = StatusOf(game);
-    if (status != AllRight) std::fputs(Verdict(game).c_str(), stderr);
-    if (game.Error != FileError::None) return status;
     const auto number = ReadNumber(options.At, 0, MaxEntries);
     const int entry = number ? static_cast<int>(*number) : game.PlayedEntries();
+    // A fault is told beside the drawing, not in it.
+    if (!game.IsLawful()) std::fprintf(stderr, "%s\n", Verdict(game).c_str());
+    if (game.Error != FileError::None) return FoundFault;
     if (entry > game.PlayedEntries()) {
         Complain(NoSuchPosition(game, entry));
         return CannotDo;
     }
-    return output.Write(Picture(options, game, entry)) ? status : CannotDo;
+    output.Write(Picture(options, game, entry));
+    return game.IsLawful() ? AllRight : FoundFault;
 }
 
 int Check(const Options& options, const RecordedGame& game, Output& output) {
+    output.Write(Verdict(game) + '\n' + (options.Moves ? MovesInWords(game) : ""));
+    return game.IsLawful() ? AllRight : FoundFault;
+}
+
+int DoFile(const Options& options, const std::string& path, Output& output) {
+    const RecordedGame game = ReadRecordedGame(path);
     if (IsUnreadable(game)) {
         Complain(Verdict(game));
         return CannotDo;
     }
-    std::string text = Verdict(game);
-    if (options.Moves) text += MovesInWords(game);
-    return output.Write(text) ? StatusOf(game) : CannotDo;
+    return options.At.empty() ? Check(options, game, output) : Draw(options, game, output);
 }
 
 int Run(const Options& options) {
     Output output(options.Output);
     int status = AllRight;
-    for (std::size_t done = 0; done < options.Files.size(); ++done) {
-        if (Interrupted != 0 || output.HasFailed()) break;
-        const RecordedGame game = ReadRecordedGame(options.Files[done]);
-        const int found =
-            options.At.empty() ? Check(options, game, output) : Draw(options, game, output);
-        status = std::max(status, found);
+    std::size_t done = 0;
+    while (done < options.Files.size() && Interrupted == 0 && !output.HasFailed()) {
+        status = std::max(status, DoFile(options, options.Files[done++], output));
     }
-    if (!output.Finish()) status = CannotDo;
-    return Interrupted != 0 ? WasInterrupted : status;
+    if (!output.Finish() || output.HasFailed()) status = CannotDo;
+    if (Interrupted == 0 || done == options.Files.size()) return status;
+    Complain("interrupted after " + std::to_string(done) + " of " +
+             std::to_string(options.Files.size()) + " files");
+    return WasInterrupted;
 }
 
 }  // namespace

@@ -62,7 +62,6 @@ std::string BrokenLine(const RecordedGame& game) {
     const int entry = game.BrokenEntry;
     std::string line = NumberOf(entry) + FileEntryInWords(game, entry) + '\n';
     line += std::string(NumberWidth + 2, ' ') + "*** breaks the rules: " + std::string(game.Cause);
-    if (game.PlayedEntries() < entry) line += "; the game cannot go on";
     return line + '\n';
 }
 
@@ -81,7 +80,7 @@ bool IsUnreadable(const RecordedGame& game) {
 }
 
 std::string Verdict(const RecordedGame& game) {
-    const std::string cause = std::string(game.Cause) + '\n';
+    const std::string cause(game.Cause);
     if (IsUnreadable(game)) return game.Path + ": " + cause;
     const std::string place = game.Path + ':' + std::to_string(game.Line) + ": ";
     if (game.Error != FileError::None) {
@@ -93,7 +92,7 @@ std::string Verdict(const RecordedGame& game) {
                ") breaks the rules: " + cause;
     }
     const int entries = static_cast<int>(game.Entries.size());
-    return game.Path + ": " + Counted(entries, "entry", "entries") + ", " + Outcome(game) + '\n';
+    return game.Path + ": " + Counted(entries, "entry", "entries") + ", " + Outcome(game);
 }
 
 std::string MovesInWords(const RecordedGame& game) {
@@ -105,6 +104,9 @@ std::string MovesInWords(const RecordedGame& game) {
         text += std::string(NumberWidth + 2, ' ') + SideInWords(game.Winner) + " wins\n";
     }
     if (game.BrokenEntry > game.PlayedEntries()) text += BrokenLine(game);
+    if (game.PlayedEntries() < static_cast<int>(game.Entries.size())) {
+        text += std::string(NumberWidth + 2, ' ') + "the game cannot be played on from here\n";
+    }
     return text;
 }
 

@@ -2,13 +2,13 @@
 
 #include "tools/record/RecordedGame.h"
 
-/// What the program says about a game, each line with its line end.
+/// What the program says about a game.
 namespace brastel {
 
 /// True if the file could not be read for a reason outside it: its path, or the system.
 bool IsUnreadable(const RecordedGame& game);
 
-/// One line: "game.txt: 57 entries, Red wins", or in the manner of compilers
+/// One line without its end: "game.txt: 57 entries, Red wins", or in the manner of compilers
 /// "game.txt:12: error 5: a start square used twice".
 std::string Verdict(const RecordedGame& game);
 

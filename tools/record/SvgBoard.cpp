@@ -84,15 +84,15 @@ std::string Squares() {
 
 /// The centre line and the border, open before the goals.
 std::string FieldLines() {
-    constexpr int Right = ColumnCount - 1;
+    constexpr int RightEnd = ColumnCount - 1;
     constexpr int Bottom = RowCount - 1;
     constexpr int GoalLeft = 3;
     constexpr int GoalRight = 5;
     return Path(Thick, Step('M', GoalLeft, 1) + Step('L', 1, 1) + Step('L', 1, Bottom) +
                            Step('L', GoalLeft, Bottom) + Step('M', GoalRight, 1) +
-                           Step('L', Right, 1) + Step('L', Right, Bottom) +
+                           Step('L', RightEnd, 1) + Step('L', RightEnd, Bottom) +
                            Step('L', GoalRight, Bottom) + Step('M', 1, RowCount / 2) +
-                           Step('L', Right, RowCount / 2));
+                           Step('L', RightEnd, RowCount / 2));
 }
 
 std::string Coordinates() {

@@ -18,10 +18,11 @@ std::string Aligned(const std::string& text, int width) {
 std::string CellText(int square) {
     const Piece piece = PieceOn(square);
     const bool hasRing = IsRingSquare(square);
-    if (!piece && !hasRing) return InField(square) ? ".  " : IsGoalMouth(square) ? "goal" : "";
+    if (!piece)
+        return hasRing ? "( ) " : InField(square) ? ".  " : IsGoalMouth(square) ? "goal" : "";
     std::string text(hasRing ? "(" : "");
-    text += !piece ? ' ' : piece.Side == Red ? 'R' : 'B';
-    if (piece) text += std::to_string(piece.Index);
+    text += piece.Side == Red ? 'R' : 'B';
+    text += std::to_string(piece.Index);
     return text + (hasRing ? ')' : ' ');
 }
 
