@@ -54,7 +54,7 @@ TEST(WordsTest, ActionsAreTold) {
          "Red piece 1 from row 8, column 4 to row 9, column 4"},
         {"R68 B44", 68, 60, "Red piece 1 from row 9, column 4 to row 8, column 4",
          "Red piece 1 from row 8, column 4 to row 9, column 4"},
-        {"r68 R69 B44 b52", 68, 52,
+        {"r68 R69 B45 b52", 68, 52,
          "Red piece 1 from row 9, column 4 to row 7, column 4, pushes Blue piece 2 to row 5, "
          "column 4",
          "Blue piece 2 from row 5, column 4 to row 7, column 4; "

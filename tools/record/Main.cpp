@@ -188,9 +188,7 @@ int Run(const Options& options) {
     return WasInterrupted;
 }
 
-}  // namespace
-
-int main(int count, char** texts) {
+int Main(int count, char** texts) {
     CLI::App app(Description, "brastel-record");
     Options options;
     Declare(app, options);
@@ -205,4 +203,16 @@ int main(int count, char** texts) {
     }
     WatchInterrupts();
     return Run(options);
+}
+
+}  // namespace
+
+int main(int count, char** texts) {
+    try {
+        return Main(count, texts);
+    } catch (const std::exception& error) {
+        // Only memory can run out.
+        std::fprintf(stderr, "brastel-record: %s\n", error.what());
+        return CannotDo;
+    }
 }
