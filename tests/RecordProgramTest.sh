@@ -30,6 +30,7 @@ expect 0 'game: 3 entries, Blue to move' '' game
 expect 1 'game: 3*broken:23: entry 3 *damaged:10: error 5: *' '' game broken damaged
 expect 2 'game: 3*' 'brastel-record: missing: there is no such file' missing game
 expect 0 'game: *   3. Red piece 1 from row 9, column 2 to row 8, column 2' '' --moves game
+expect 1 'damaged:10: error 5: *' '' --moves damaged
 expect 0 'After entry 3: Blue to move*' '' --at end game
 expect 0 'At the start: Red places its ring*' '' --at 0 game
 expect 0 '<svg *</svg>' '' --at 3 --svg game

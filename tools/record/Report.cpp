@@ -96,6 +96,7 @@ std::string Verdict(const RecordedGame& game) {
 }
 
 std::string MovesInWords(const RecordedGame& game) {
+    if (game.Error != FileError::None) return {};
     std::string text;
     for (int entry = 1; entry <= game.PlayedEntries(); ++entry) {
         text += entry == game.BrokenEntry ? BrokenLine(game)

@@ -13,7 +13,8 @@ bool IsUnreadable(const RecordedGame& game);
 std::string Verdict(const RecordedGame& game);
 
 /// The game's entries in words, one a line. The first that breaks the rules is marked, with the
-/// rule; where the game cannot be stepped on, the list ends.
+/// rule; where the game cannot be stepped on, the list ends. Empty for a file that could not be
+/// read.
 std::string MovesInWords(const RecordedGame& game);
 
 /// "After entry 37: Red to move".
