@@ -4,6 +4,7 @@
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "tests/Positions.h"
+#include "tools/GameSeed.h"
 #include "tools/ReadNumber.h"
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/SoakGame.h"
@@ -74,15 +75,6 @@ bool ReadOptions(int count, char** texts, Options& options) {
     return true;
 }
 
-/// A seed for each game: those of neighbours have nothing in common.
-std::uint32_t SeedOf(std::int64_t seed, std::int64_t game) {
-    std::uint64_t mixed =
-        static_cast<std::uint64_t>(seed) * 0x9e3779b97f4a7c15 + static_cast<std::uint64_t>(game);
-    mixed = (mixed ^ mixed >> 30) * 0xbf58476d1ce4e5b9;
-    mixed = (mixed ^ mixed >> 27) * 0x94d049bb133111eb;
-    return static_cast<std::uint32_t>(mixed >> 32);
-}
-
 /// The game's entries and its position, and how to play it alone.
 void ReportFault(const Inconsistency& fault, const Options& options, std::int64_t game) {
     std::printf("INCONSISTENT: %s\nentries:", fault.What.c_str());
@@ -98,7 +90,9 @@ bool PlayAll(const Options& options) {
     for (std::int64_t played = 0; played < options.Games; ++played) {
         const std::int64_t game = options.First + played;
         try {
-            PlaySoakGame(SeedOf(options.Seed, game), static_cast<int>(game % LayoutCount));
+            const std::uint32_t seed = SeedOf(static_cast<std::uint64_t>(options.Seed),
+                                              static_cast<std::uint64_t>(game));
+            PlaySoakGame(seed, static_cast<int>(game % LayoutCount));
         } catch (const Inconsistency& fault) {
             ReportFault(fault, options, game);
             return false;
