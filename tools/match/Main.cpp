@@ -1,13 +1,18 @@
 /// Plays strengths of the computer player against each other.
 
 #include "tools/Interrupt.h"
+#include "tools/match/LadderChart.h"
 #include "tools/match/MatchTable.h"
 #include "tools/match/Options.h"
 #include "tools/match/SavedGames.h"
+#include "tools/match/StrengthName.h"
 
+#include <algorithm>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <fstream>
+#include <sstream>
 #include <unistd.h>
 
 namespace {
@@ -21,15 +26,24 @@ int Complain(const std::string& what, int status) {
 
 // ---- Writing ----
 
-/// Standard output for an empty path.
-int WriteText(const std::string& path, const std::string& text) {
-    std::FILE* file = path.empty() ? stdout : std::fopen(path.c_str(), "w");
-    const bool isOpen = file != nullptr;
-    bool isWritten = isOpen && std::fputs(text.c_str(), file) >= 0 && std::fflush(file) == 0;
-    if (isOpen && file != stdout) isWritten = std::fclose(file) == 0 && isWritten;
-    if (isWritten) return Done;
+int CannotWrite(const std::string& path) {
     const std::string name = path.empty() ? "standard output" : path;
     return Complain("cannot write " + name + ": " + std::strerror(errno), BadPath);
+}
+
+/// What the file holds stays as it is.
+bool CanWrite(const std::string& path) {
+    std::FILE* const file = std::fopen(path.c_str(), "a");
+    return file != nullptr && std::fclose(file) == 0;
+}
+
+/// Standard output for an empty path.
+int WriteText(const std::string& path, const std::string& text) {
+    std::FILE* const file = path.empty() ? stdout : std::fopen(path.c_str(), "w");
+    if (file == nullptr) return CannotWrite(path);
+    const bool isWritten = std::fputs(text.c_str(), file) >= 0 && std::fflush(file) == 0;
+    const bool isClosed = file == stdout || std::fclose(file) == 0;
+    return isWritten && isClosed ? Done : CannotWrite(path);
 }
 
 // ---- Progress: one line, for people only ----
@@ -77,25 +91,22 @@ MatchEnd Play(const MatchTerms& terms, const MatchRun& run, std::vector<MatchGam
     return PlayMatch(terms, run, games, [&](const MatchGame& game) { line.Count(game); });
 }
 
-int StatusOf(MatchEnd end, const std::vector<MatchGame>& games, const MatchRun& run) {
-    const std::string played = std::to_string(games.size()) + " of " + std::to_string(run.Games);
-    switch (end) {
-        case MatchEnd::Complete:
-            return Done;
-        case MatchEnd::Stopped:
-            return Complain("interrupted after " + played + " games", WasInterrupted);
-        case MatchEnd::NotSaved:
-            for (const MatchGame& game : games) {
-                if (game.SaveError == 0) continue;
-                return Complain("cannot save game " + std::to_string(game.Number) + " in " +
-                                    run.Folder + ": " + std::strerror(game.SaveError),
-                                BadPath);
-            }
-            break;
-        case MatchEnd::Broken:
-            break;
-    }
-    return Complain("a playing process ended early, after " + played + " games", SystemFailed);
+int NotSaved(const std::vector<MatchGame>& games, const std::string& folder) {
+    const auto game = std::ranges::find_if(games, &MatchGame::SaveError);
+    return Complain("cannot save game " + std::to_string(game->Number) + " in " + folder + ": " +
+                        std::strerror(game->SaveError),
+                    BadPath);
+}
+
+int StatusOf(MatchEnd end, const std::vector<MatchGame>& games, const MatchTerms& terms,
+             const MatchRun& run) {
+    if (end == MatchEnd::Complete) return Done;
+    if (end == MatchEnd::NotSaved) return NotSaved(games, run.Folder);
+    const std::string played = "after " + std::to_string(games.size()) + " of " +
+                               std::to_string(run.Games) + " games of " +
+                               StrengthName(terms.First) + " against " + StrengthName(terms.Second);
+    if (end == MatchEnd::Stopped) return Complain("interrupted " + played, WasInterrupted);
+    return Complain("a playing process failed " + played, SystemFailed);
 }
 
 int PlaySingle(const Options& options) {
@@ -103,7 +114,7 @@ int PlaySingle(const Options& options) {
     const MatchEnd end = Play(options.Terms, options.Run, games);
     const int written =
         WriteText({}, MatchTable(options.Terms, ScoreOf(games, options.Terms.Alternates)));
-    const int status = StatusOf(end, games, options.Run);
+    const int status = StatusOf(end, games, options.Terms, options.Run);
     return status != Done ? status : written;
 }
 
@@ -115,32 +126,52 @@ MatchTerms TermsOf(const Options& options, int lower) {
     return terms;
 }
 
-/// The table so far to its file, or the last rows to standard output.
-int WriteLadder(const Options& options, const std::vector<Rung>& ladder) {
-    std::string table = LadderTableHead(options.Terms, options.Run.Games);
-    std::string news = ladder.size() == 2 ? table : "";
-    for (const Rung& rung : ladder) {
-        table += LadderTableRow(rung);
-        if (ladder.size() == 2 || &rung == &ladder.back()) news += LadderTableRow(rung);
-    }
-    return WriteText(options.TableFile, options.TableFile.empty() ? news : table);
+// ---- The ladder ----
+
+int DrawChart(const Options& options, const Ladder& ladder) {
+    return options.ChartFile.empty() ? Done : WriteText(options.ChartFile, LadderChart(ladder));
+}
+
+/// After each match, so that nothing is lost: both files as far as the ladder goes, or what is new
+/// in it to standard output.
+int WriteProgress(const Options& options, const Ladder& ladder) {
+    const bool isBegun = ladder.Rungs.size() > 2;
+    const bool isWhole = !options.TableFile.empty() || !isBegun;
+    const std::string text = isWhole ? LadderText(ladder) : LadderRow(ladder.Rungs.back());
+    const int status = WriteText(options.TableFile, text);
+    return status != Done ? status : DrawChart(options, ladder);
 }
 
 int PlayLadder(const Options& options) {
-    std::vector<Rung> ladder;
+    Ladder ladder = BeginLadder(options.Terms, options.Run.Games);
     for (int lower = options.From; lower < options.To; ++lower) {
         const MatchTerms terms = TermsOf(options, lower);
         std::vector<MatchGame> games;
         const MatchEnd end = Play(terms, options.Run, games);
         if (!games.empty()) {
-            AddRung(ladder, terms, ScoreOf(games, true));
-            const int written = WriteLadder(options, ladder);
+            AddMatch(ladder, terms, ScoreOf(games, true));
+            const int written = WriteProgress(options, ladder);
             if (written != Done) return written;
         }
-        const int status = StatusOf(end, games, options.Run);
+        const int status = StatusOf(end, games, terms, options.Run);
         if (status != Done) return status;
     }
     return Done;
+}
+
+int JoinLadders(const Options& options) {
+    Ladder ladder;
+    for (const std::string& path : options.Joined) {
+        std::ifstream file(path);
+        std::stringstream text;
+        text << file.rdbuf();
+        if (!file || !text)
+            return Complain("cannot read " + path + ": " + std::strerror(errno), BadPath);
+        const std::string wrong = JoinLadder(ladder, text.str());
+        if (!wrong.empty()) return Complain("cannot join " + path + ": " + wrong, BadPath);
+    }
+    const int status = WriteText(options.TableFile, LadderText(ladder));
+    return status != Done ? status : DrawChart(options, ladder);
 }
 
 /// What cannot be written is told before anything is played.
@@ -152,7 +183,9 @@ int CheckPaths(const Options& options) {
         const std::string obstacle = PrepareFolder(options.Run.Folder, terms, options.Run.Games);
         if (!obstacle.empty()) return Complain(obstacle, BadPath);
     }
-    if (!options.TableFile.empty()) return WriteText(options.TableFile, "");
+    for (const std::string& path : {options.TableFile, options.ChartFile}) {
+        if (!path.empty() && !CanWrite(path)) return CannotWrite(path);
+    }
     return Done;
 }
 
@@ -162,6 +195,7 @@ int main(int count, char** texts) {
     Options options;
     if (const auto status = ReadOptions(count, texts, options)) return *status;
     if (const int status = CheckPaths(options)) return status;
+    if (!options.Joined.empty()) return JoinLadders(options);
     WatchInterrupts();
     return options.Ladder ? PlayLadder(options) : PlaySingle(options);
 }

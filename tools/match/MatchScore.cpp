@@ -1,35 +1,11 @@
 #include "tools/match/MatchScore.h"
 
 #include <algorithm>
-#include <cmath>
-#include <numbers>
-#include <numeric>
 #include <set>
 
 namespace brastel {
 
 namespace {
-
-/// 95 of 100 results of a normal distribution lie within as many standard deviations.
-constexpr double Confidence = 1.959964;
-/// The most extreme chance that lets all results be the same in 5 of 100 matches.
-constexpr double Doubt = 0.05;
-
-constexpr double PointsPerNaturalUnit = 400 / std::numbers::ln10;
-
-double PointsOf(double score) { return PointsPerNaturalUnit * std::log(score / (1 - score)); }
-
-double MeanOf(std::span<const double> values) {
-    return std::accumulate(values.begin(), values.end(), 0.0) / static_cast<double>(values.size());
-}
-
-/// Of the mean of the values, from how they differ.
-double StandardErrorOf(std::span<const double> values, double mean) {
-    double squares = 0;
-    for (const double value : values) squares += (value - mean) * (value - mean);
-    const double count = static_cast<double>(values.size());
-    return std::sqrt(squares / (count - 1) / count);
-}
 
 // ---- Results ----
 
@@ -75,22 +51,13 @@ ThinkingTime TimeOf(const std::vector<MatchGame>& games, bool first) {
 
 }  // namespace
 
-Elo EloOf(std::span<const double> results) {
-    if (results.empty()) return {};
-    const double mean = MeanOf(results);
-    const double furthest = std::pow(Doubt, 1 / static_cast<double>(results.size()));
-    if (mean >= 1) return {PointsOf(furthest), 0, 1};
-    if (mean <= 0) return {-PointsOf(furthest), 0, -1};
-    // A single result tells nothing of how results differ: at worst as those of a coin do.
-    const double error =
-        results.size() > 1 ? StandardErrorOf(results, mean) : std::sqrt(mean * (1 - mean));
-    return {PointsOf(mean), Confidence * error * PointsPerNaturalUnit / (mean * (1 - mean)), 0};
+double PercentOf(const MatchScore& score) {
+    return score.Games == 0 ? 0 : 100 * (score.Wins + score.Draws / 2.0) / score.Games;
 }
-
-Elo Sum(const Elo& lower, const Elo& upper) {
-    const int bound = lower.Bound != 0 ? lower.Bound : upper.Bound;
-    return {lower.Points + upper.Points, std::hypot(lower.Error, upper.Error), bound};
+int WinsByRed(const MatchScore& score) {
+    return score.WinsAsRed + score.Losses - score.LossesAsRed;
 }
+int WinsByBlue(const MatchScore& score) { return score.Wins - score.WinsAsRed + score.LossesAsRed; }
 
 MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired) {
     MatchScore score;

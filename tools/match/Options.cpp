@@ -1,106 +1,182 @@
 #include "tools/match/Options.h"
 
 #include "core/StartPosition.h"
-#include "engine/Strengths.h"
-#include "tools/match/SavedGames.h"
+#include "tools/ReadNumber.h"
+#include "tools/match/StrengthName.h"
 
 #include <CLI/CLI.hpp>
-#include <algorithm>
+#include <array>
 #include <cctype>
+#include <limits>
+#include <memory>
+#include <utility>
 
 namespace brastel {
 
 namespace {
 
 constexpr const char* Description =
-    "Plays games of one strength of Brastel's computer player against another and prints the "
-    "result as a table. Every game depends only on the seed and its number.";
+    "Plays games of one strength of the computer player against another and prints the result.\n"
+    "Each game depends on nothing but the options and its number.\n";
 
-constexpr const char* Footer = R"(Examples:
-  brastel-match --red 5 --blue 3 --games 100 --alternate --jobs 2
-  brastel-match --red Expert --blue Expert --pieces 12 --games 10 --save games
-  brastel-match --ladder --games 200 --table ladder.md
+constexpr const char* Footer = R"(A STRENGTH is a number from 1 to 11 or a name from Easy to God.
 
-Exit status: 0 done, 1 wrong arguments, 2 a path cannot be written, 3 the system failed, 130
-interrupted, with the results so far. More in brastel-match(6).)";
+Examples:
+  brastel-match --red 5 --blue 3 --alternate --games 200 --jobs 2
+  brastel-match --red Expert --blue Master --pieces 12 --games 10 --save games
+  brastel-match --ladder --games 200 --table ladder.md --chart ladder.svg
+  brastel-match --ladder --join low.md high.md --chart ladder.svg
+
+Exit status: 0 done, 1 wrong arguments, 2 a path cannot be read or written, 3 the system
+failed, 130 interrupted. More in brastel-match(6).)";
+
+constexpr std::int64_t MostGames = 1'000'000;
+constexpr std::int64_t MostJobs = 256;
+constexpr std::int64_t MostRandomMoves = 10;
 
 std::string Lower(std::string text) {
-    std::ranges::transform(text, text.begin(), [](unsigned char c) { return std::tolower(c); });
+    for (char& byte : text) {
+        byte = static_cast<char>(std::tolower(static_cast<unsigned char>(byte)));
+    }
     return text;
 }
 
 /// Turns the name of a strength into its number.
-const CLI::Validator IsStrength(
-    [](std::string& text) -> std::string {
-        for (const Strength& strength : Strengths) {
-            const std::string number = std::to_string(strength.Depth);
-            if (text != number && Lower(text) != Lower(StrengthName(strength.Depth))) continue;
-            text = number;
-            return {};
-        }
-        return text + " is no strength: give 1 to 11, or a name from Easy to God";
-    },
-    "STRENGTH", "strength");
+std::string ReadStrength(std::string& text) {
+    for (const Strength& strength : Strengths) {
+        const std::string number = std::to_string(strength.Depth);
+        if (text != number && Lower(text) != Lower(StrengthName(strength.Depth))) continue;
+        text = number;
+        return {};
+    }
+    return "\"" + text + "\" is no strength, which is 1 to 11 or a name from Easy to God";
+}
 
-const CLI::Validator IsPieceCount(
-    [](std::string& text) -> std::string {
-        for (int layout = 0; layout < FreeSetupLayout; ++layout) {
-            if (text == std::to_string(LayoutPieces(layout))) return {};
-        }
-        return text + " is no number of pieces: give 2, 4, 6, 8, 10 or 12";
-    },
-    "N", "pieces");
+std::string ReadPieces(std::string& text) {
+    for (int layout = 0; layout < FreeSetupLayout; ++layout) {
+        if (text == std::to_string(LayoutPieces(layout))) return {};
+    }
+    return "\"" + text + "\" is no number of pieces, which is 2, 4, 6, 8, 10 or 12";
+}
 
-constexpr int MostGames = 1'000'000;
-constexpr int MostJobs = 256;
-constexpr int MostRandomMoves = 10;
+std::string ReadPath(std::string& text) { return text.empty() ? "the path is empty" : ""; }
 
-/// Options of a single match and of a ladder exclude each other.
-void AddOptions(CLI::App& app, Options& options) {
+CLI::Validator IsNumber(std::int64_t least, std::int64_t most) {
+    const auto read = [=](std::string& text) -> std::string {
+        if (ReadNumber(text, least, most)) return {};
+        return "\"" + text + "\" is no whole number from " + std::to_string(least) + " to " +
+               std::to_string(most);
+    };
+    return {read, ""};
+}
+
+const CLI::Validator IsStrength(ReadStrength, "");
+const CLI::Validator IsPieceCount(ReadPieces, "");
+const CLI::Validator IsPath(ReadPath, "");
+
+/// Adds options with the same words around them in the help.
+class OptionGroup {
+public:
+    OptionGroup(CLI::App& app, std::string name) : App(app), Name(std::move(name)) {}
+
+    template <typename Value>
+    CLI::Option* Add(const char* name, Value& value, const char* kind, const char* help) {
+        return App.add_option(name, value, help)->type_name(kind)->option_text(kind)->group(Name);
+    }
+    CLI::Option* AddFlag(const char* name, bool& value, const char* help) {
+        return App.add_flag(name, value, help)->option_text(" ")->group(Name);
+    }
+
+private:
+    CLI::App& App;
+    std::string Name;
+};
+
+void AddSingleMatch(CLI::App& app, MatchTerms& terms) {
+    OptionGroup group(app, "One match");
+    group.Add("--red", terms.First, "STRENGTH", "strength of Red (5)")->transform(IsStrength);
+    group.Add("--blue", terms.Second, "STRENGTH", "strength of Blue (3)")->transform(IsStrength);
+    group.AddFlag("--alternate", terms.Alternates,
+                  "swap colours every other game, each opening being played both ways");
+}
+
+/// What a ladder chooses by itself is left to a single match.
+void AddLadder(CLI::App& app, Options& options) {
+    OptionGroup group(app, "All strengths");
+    auto* const ladder =
+        group.AddFlag("--ladder", options.Ladder,
+                      "play each strength against the one below, colours alternating");
+    for (const char* name : {"--red", "--blue", "--alternate"}) {
+        ladder->excludes(app.get_option(name));
+    }
+    const std::array<CLI::Option*, 5> parts{
+        group.Add("--from", options.From, "STRENGTH", "lowest strength (1)")->transform(IsStrength),
+        group.Add("--to", options.To, "STRENGTH", "highest strength (11)")->transform(IsStrength),
+        group
+            .Add("--table", options.TableFile, "FILE",
+                 "write the ladder here, not to standard output")
+            ->check(IsPath),
+        group.Add("--chart", options.ChartFile, "FILE", "draw the ladder as an SVG picture")
+            ->check(IsPath),
+        group
+            .Add("--join", options.Joined, "FILE...",
+                 "play nothing, but join ladders written before")
+            ->check(IsPath)};
+    for (CLI::Option* part : parts) part->needs(ladder);
+}
+
+void AddGames(CLI::App& app, Options& options) {
+    OptionGroup group(app, "Games");
     MatchTerms& terms = options.Terms;
     MatchRun& run = options.Run;
-    auto* ladder = app.add_flag("--ladder", options.Ladder,
-                                "Play all neighbouring strengths, colours alternating");
-    app.add_option("--red", terms.First, "Strength of Red, 1 to 11 or Easy to God")
-        ->transform(IsStrength)
-        ->excludes(ladder);
-    app.add_option("--blue", terms.Second, "Strength of Blue")
-        ->transform(IsStrength)
-        ->excludes(ladder);
-    app.add_flag("--alternate", terms.Alternates,
-                 "Swap colours every other game; each opening is played with both")
-        ->excludes(ladder);
-    app.add_option("--pieces", terms.Pieces, "Pieces a side: 2, 4, 6, 8, 10 or 12")
+    group.Add("--games", run.Games, "N", "games to play, of each pair for a ladder (100)")
+        ->check(IsNumber(1, MostGames));
+    group.Add("--pieces", terms.Pieces, "N", "pieces a side: 2, 4, 6, 8, 10 or 12 (8)")
         ->transform(IsPieceCount);
-    app.add_option("--games", run.Games, "Games to play, of each pair of strengths with --ladder")
-        ->check(CLI::Range(1, MostGames));
-    app.add_option("--seed", terms.Seed, "Another seed, other games");
-    app.add_option("--random-moves", terms.RandomMoves,
-                   "Random moves of each side at the beginning")
-        ->check(CLI::Range(0, MostRandomMoves));
-    app.add_option("--jobs", run.Jobs, "Processes to play with; the games stay the same")
-        ->check(CLI::Range(1, MostJobs));
-    app.add_option("--save", run.Folder, "Save a record file of each game in this folder")
-        ->type_name("DIR");
-    app.add_option("--from", options.From, "Lowest strength of the ladder")
-        ->transform(IsStrength)
-        ->needs(ladder);
-    app.add_option("--to", options.To, "Highest strength of the ladder")
-        ->transform(IsStrength)
-        ->needs(ladder);
-    app.add_option("--table", options.TableFile, "Write the ladder here, not to standard output")
-        ->type_name("FILE")
-        ->needs(ladder);
-    app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION);
+    group.Add("--seed", terms.Seed, "N", "another seed, other games (1)")
+        ->check(IsNumber(0, std::numeric_limits<std::int64_t>::max()));
+    group
+        .Add("--random-moves", terms.RandomMoves, "N",
+             "random moves of each side at the beginning, 0 to 10 (2)")
+        ->check(IsNumber(0, MostRandomMoves));
+    group.Add("--jobs", run.Jobs, "N", "processes that play at the same time, 1 to 256 (1)")
+        ->check(IsNumber(1, MostJobs));
+    group.Add("--save", run.Folder, "DIR", "save a record file of each game here, for Load Game")
+        ->check(IsPath);
+}
+
+/// One empty line between the groups of options.
+class HelpText : public CLI::Formatter {
+public:
+    std::string make_usage(const CLI::App* app, std::string name) const override {
+        return Formatter::make_usage(app, std::move(name)) + '\n';
+    }
+    std::string make_group(std::string group, bool isPositional,
+                           std::vector<const CLI::Option*> options) const override {
+        return Formatter::make_group(std::move(group), isPositional, std::move(options)).substr(1);
+    }
+};
+
+void AddHelp(CLI::App& app) {
+    app.formatter(std::make_shared<HelpText>());
+    app.footer(Footer);
+    app.failure_message([](const CLI::App* program, const CLI::Error& error) {
+        return program->get_name() + ": " + error.what() + "\nSee " + program->get_name() +
+               " --help.\n";
+    });
+    app.set_help_flag("--help", "print this text")->group("Other");
+    app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "print the version")
+        ->group("Other");
 }
 
 }  // namespace
 
 std::optional<int> ReadOptions(int count, const char* const* texts, Options& options) {
     CLI::App app(Description, "brastel-match");
-    app.option_defaults()->always_capture_default();
-    app.footer(Footer);
-    AddOptions(app, options);
+    AddSingleMatch(app, options.Terms);
+    AddLadder(app, options);
+    AddGames(app, options);
+    AddHelp(app);
     try {
         app.parse(count, texts);
         if (options.Ladder && options.From >= options.To) {

@@ -52,7 +52,10 @@ public:
                 close(Input);
                 _exit(PlayShare(terms, run, worker, ends[1]) ? PlayedAll : StoppedEarly);
             }
-            if (process < 0) break;
+            if (process < 0) {
+                Stop();
+                break;
+            }
             Processes.push_back(process);
         }
         close(ends[1]);
@@ -77,9 +80,9 @@ public:
     bool Receive(MatchGame& game) const {
         pollfd input{Input, POLLIN, 0};
         // An interrupt can come just before the wait and not be noticed by it.
-        while (poll(&input, 1, MillisecondsBetweenLooks) <= 0) {
+        do {
             if (Interrupted != 0) Stop();
-        }
+        } while (poll(&input, 1, MillisecondsBetweenLooks) <= 0);
         return read(Input, &game, sizeof game) == static_cast<ssize_t>(sizeof game);
     }
 

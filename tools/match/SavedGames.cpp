@@ -1,8 +1,8 @@
 #include "tools/match/SavedGames.h"
 
-#include "engine/Strengths.h"
 #include "files/FileView.h"
 #include "files/GameFile.h"
+#include "tools/match/StrengthName.h"
 
 #include <cerrno>
 #include <cstdio>
@@ -32,12 +32,6 @@ public:
 std::string SystemError() { return std::strerror(errno); }
 
 }  // namespace
-
-std::string StrengthName(int level) {
-    std::string name(Strengths.at(static_cast<std::size_t>(level - 1)).Caption);
-    std::erase(name, '&');
-    return name;
-}
 
 std::string SavedGameName(const MatchTerms& terms, int number) {
     const bool firstIsRed = FirstPlaysRed(terms, number);

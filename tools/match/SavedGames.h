@@ -5,9 +5,6 @@
 /// The record files of a match, which the game loads.
 namespace brastel {
 
-/// As in Easy or GrandMaster.
-std::string StrengthName(int level);
-
 /// As in 0007-Expert-Difficult.txt: the number, who plays Red and who Blue.
 std::string SavedGameName(const MatchTerms& terms, int number);
 

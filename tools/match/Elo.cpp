@@ -1,0 +1,101 @@
+#include "tools/match/Elo.h"
+
+#include "tools/match/TableText.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <numbers>
+#include <numeric>
+
+namespace brastel {
+
+namespace {
+
+/// 95 of 100 values of a normal distribution lie within as many standard deviations.
+constexpr double Confidence = 1.959964;
+/// How often a bound is overstepped.
+constexpr double Doubt = 0.05;
+/// Half a point, squared.
+constexpr double LeastSquares = 0.25;
+
+constexpr double PointsPerNaturalUnit = 400 / std::numbers::ln10;
+
+double PointsOf(double score) { return PointsPerNaturalUnit * std::log(score / (1 - score)); }
+
+/// Of the mean of the results.
+double StandardErrorOf(std::span<const double> results, double mean) {
+    double squares = 0;
+    for (const double result : results) squares += (result - mean) * (result - mean);
+    const double count = static_cast<double>(results.size());
+    return std::sqrt(std::max(squares, LeastSquares) / std::max(count - 1, 1.0) / count);
+}
+
+Certainty Either(Certainty a, Certainty b) {
+    if (a == b || b == Certainty::Estimate) return a;
+    return a == Certainty::Estimate ? b : Certainty::Unknown;
+}
+
+// ---- Text ----
+
+struct Sign {
+    std::string_view Text;
+    Certainty Kind;
+};
+constexpr std::array<Sign, 2> Signs{{{"> ", Certainty::AtLeast}, {"< ", Certainty::AtMost}}};
+constexpr std::string_view ErrorSign = " ± ";
+constexpr std::string_view UnknownText = "unknown";
+
+std::optional<double> ReadPoints(std::string_view text) {
+    if (text.starts_with('+')) text.remove_prefix(1);
+    double points = 0;
+    const char* const end = text.data() + text.size();
+    const auto [stop, error] = std::from_chars(text.data(), end, points);
+    const bool isRight = error == std::errc() && stop == end && std::isfinite(points);
+    return isRight ? std::optional(points) : std::nullopt;
+}
+
+}  // namespace
+
+Elo EloOf(std::span<const double> results) {
+    if (results.empty()) return {0, 0, Certainty::Unknown};
+    const double count = static_cast<double>(results.size());
+    const double mean = std::accumulate(results.begin(), results.end(), 0.0) / count;
+    const double bound = PointsOf(std::pow(Doubt, 1 / count));
+    if (mean >= 1) return {bound, 0, Certainty::AtLeast};
+    if (mean <= 0) return {-bound, 0, Certainty::AtMost};
+    const double slope = PointsPerNaturalUnit / (mean * (1 - mean));
+    return {PointsOf(mean), Confidence * slope * StandardErrorOf(results, mean),
+            Certainty::Estimate};
+}
+
+Elo Sum(const Elo& lower, const Elo& upper) {
+    return {lower.Points + upper.Points, std::hypot(lower.Error, upper.Error),
+            Either(lower.Kind, upper.Kind)};
+}
+
+std::string EloText(const Elo& elo) {
+    if (elo.Kind == Certainty::Unknown) return std::string(UnknownText);
+    for (const Sign& sign : Signs) {
+        if (elo.Kind == sign.Kind) return std::string(sign.Text) + Format("%.0f", elo.Points);
+    }
+    return Format("%+.0f", elo.Points) + std::string(ErrorSign) + Format("%.0f", elo.Error);
+}
+
+std::optional<Elo> ReadElo(std::string_view text) {
+    if (text == UnknownText) return Elo{0, 0, Certainty::Unknown};
+    for (const Sign& sign : Signs) {
+        if (!text.starts_with(sign.Text)) continue;
+        const auto points = ReadPoints(text.substr(sign.Text.size()));
+        return points ? std::optional(Elo{*points, 0, sign.Kind}) : std::nullopt;
+    }
+    const std::size_t middle = text.find(ErrorSign);
+    if (middle == std::string_view::npos) return std::nullopt;
+    const auto points = ReadPoints(text.substr(0, middle));
+    const auto error = ReadPoints(text.substr(middle + ErrorSign.size()));
+    if (!points || !error || *error < 0) return std::nullopt;
+    return Elo{*points, *error, Certainty::Estimate};
+}
+
+}  // namespace brastel

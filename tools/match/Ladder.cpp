@@ -1,0 +1,145 @@
+#include "tools/match/Ladder.h"
+
+#include "tools/ReadNumber.h"
+#include "tools/match/MatchTable.h"
+#include "tools/match/StrengthName.h"
+#include "tools/match/TableText.h"
+
+#include <sstream>
+
+namespace brastel {
+
+namespace {
+
+const LadderCells Captions{"level",       "strength",       "score, %",     "difference",
+                           "ladder",      "won/drawn/lost", "Red/Blue won", "different",
+                           "mean length", "median ms",      "worst ms"};
+constexpr std::array<int, LadderColumns> Widths{5, -11, 8, 11, 12, 15, 14, 9, 11, 9, 8};
+
+std::string TableLine(const LadderCells& cells) {
+    std::string line = "|";
+    for (std::size_t n = 0; n < cells.size(); ++n) line += ' ' + Padded(cells[n], Widths[n]) + " |";
+    return line + '\n';
+}
+
+std::string RuleBelowCaptions() {
+    std::string line = "|";
+    for (const int width : Widths) {
+        const std::string dashes(static_cast<std::size_t>(std::abs(width)) + 1, '-');
+        line += dashes + (width < 0 ? "-|" : ":|");
+    }
+    return line + '\n';
+}
+
+LadderCells CellsOf(Int16 level, const ThinkingTime& time) {
+    LadderCells cells;
+    cells[LevelColumn] = std::to_string(level);
+    cells[NameColumn] = StrengthName(level);
+    cells[9] = Milliseconds(time.MedianSeconds);
+    cells[10] = Milliseconds(time.WorstSeconds);
+    return cells;
+}
+
+LadderCells CellsOf(Int16 level, const MatchScore& score) {
+    LadderCells cells = CellsOf(level, score.First);
+    cells[ScoreColumn] = Format("%.1f", PercentOf(score));
+    cells[StepColumn] = EloText(score.Difference);
+    cells[5] = Format("%d / %d / %d", score.Wins, score.Draws, score.Losses);
+    cells[6] = Format("%d / %d", WinsByRed(score), WinsByBlue(score));
+    cells[7] = std::to_string(score.DifferentGames);
+    cells[8] = Format("%.1f", score.MeanLength);
+    return cells;
+}
+
+void AddFoot(Ladder& ladder, Int16 level, const LadderCells& cells) {
+    ladder.Rungs.push_back({level, {}, {}, cells});
+    // Not by a literal, at which gcc 12 sees an overlap that is none.
+    ladder.Rungs.back().Cells[HeightColumn].assign(1, '0');
+}
+
+void AddRung(Ladder& ladder, Int16 level, const Elo& step, const LadderCells& cells) {
+    const Elo height = Sum(ladder.Rungs.back().Height, step);
+    ladder.Rungs.push_back({level, step, height, cells});
+    ladder.Rungs.back().Cells[HeightColumn] = EloText(height);
+}
+
+// ---- Reading ----
+
+std::string Trimmed(const std::string& text) {
+    const std::size_t first = text.find_first_not_of(" \t\r");
+    if (first == std::string::npos) return {};
+    return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
+}
+
+/// The cells of a line of the table; none if it has not got as many.
+std::optional<LadderCells> ReadCells(const std::string& line) {
+    std::istringstream rest(Trimmed(line));
+    LadderCells cells;
+    std::string cell;
+    if (!std::getline(rest, cell, '|') || !cell.empty()) return std::nullopt;
+    for (std::string& place : cells) {
+        if (!std::getline(rest, cell, '|') || rest.eof()) return std::nullopt;
+        place = Trimmed(cell);
+    }
+    return std::getline(rest, cell) ? std::nullopt : std::optional(cells);
+}
+
+std::string JoinRow(Ladder& ladder, Int16 level, const LadderCells& cells) {
+    const Int16 top = ladder.Rungs.empty() ? Int16{0} : ladder.Rungs.back().Level;
+    const std::string name = StrengthName(level);
+    if (cells[StepColumn].empty()) {
+        if (top == 0) AddFoot(ladder, level, cells);
+        return top == 0 || top == level ? "" : name + " does not follow on " + StrengthName(top);
+    }
+    const auto step = ReadElo(cells[StepColumn]);
+    if (!step) return name + " has no difference that can be read";
+    if (top == 0 || level != top + 1) {
+        return name + " does not follow on " + (top == 0 ? "any strength" : StrengthName(top));
+    }
+    AddRung(ladder, level, *step, cells);
+    return {};
+}
+
+}  // namespace
+
+Ladder BeginLadder(const MatchTerms& terms, int games) {
+    return {"Each strength against the one below, " + std::to_string(games) +
+                " games, colours alternating, " + TermsText(terms),
+            {}};
+}
+
+void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score) {
+    if (ladder.Rungs.empty()) AddFoot(ladder, terms.Second, CellsOf(terms.Second, score.Second));
+    AddRung(ladder, terms.First, score.Difference, CellsOf(terms.First, score));
+}
+
+std::string LadderHead(const Ladder& ladder) {
+    return ladder.Terms + "\n\n" + TableLine(Captions) + RuleBelowCaptions();
+}
+
+std::string LadderRow(const Rung& rung) { return TableLine(rung.Cells); }
+
+std::string LadderText(const Ladder& ladder) {
+    std::string text = LadderHead(ladder);
+    for (const Rung& rung : ladder.Rungs) text += LadderRow(rung);
+    return text;
+}
+
+std::string JoinLadder(Ladder& ladder, const std::string& text) {
+    std::istringstream lines(text);
+    int rows = 0;
+    for (std::string line, last; std::getline(lines, line);) {
+        const auto cells = ReadCells(line);
+        // The terms are the last line before the table.
+        if (cells && *cells == Captions && ladder.Rungs.empty()) ladder.Terms = last;
+        if (!Trimmed(line).empty()) last = Trimmed(line);
+        const auto level = cells ? ReadNumber((*cells)[LevelColumn], 1, MaxPly) : std::nullopt;
+        if (!level) continue;
+        ++rows;
+        const std::string wrong = JoinRow(ladder, ToInt16(static_cast<int>(*level)), *cells);
+        if (!wrong.empty()) return wrong;
+    }
+    return rows == 0 ? "there is no ladder in it" : "";
+}
+
+}  // namespace brastel

@@ -1,0 +1,56 @@
+#pragma once
+
+#include "tools/match/MatchScore.h"
+
+#include <array>
+#include <string>
+#include <vector>
+
+/// The strengths one above the other, each measured against the one below.
+namespace brastel {
+
+/// The table has more columns than these.
+enum LadderColumn : std::size_t {
+    LevelColumn,
+    NameColumn,
+    ScoreColumn,
+    StepColumn,
+    HeightColumn,
+    LadderColumns = 11
+};
+using LadderCells = std::array<std::string, LadderColumns>;
+
+struct Rung {
+    Int16 Level = 0;
+    /// Above the strength below; 0 at the foot.
+    Elo Step;
+    /// Above the foot.
+    Elo Height;
+    /// The row of the table.
+    LadderCells Cells;
+};
+
+struct Ladder {
+    /// What was played, in a sentence.
+    std::string Terms;
+    std::vector<Rung> Rungs;
+};
+
+/// An empty ladder for matches of so many games.
+Ladder BeginLadder(const MatchTerms& terms, int games);
+
+/// Puts the first strength of a match on top. The second one is on top before, or stands at the
+/// foot from now on.
+void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score);
+
+// ---- As text: the terms and a Markdown table ----
+
+std::string LadderHead(const Ladder& ladder);
+std::string LadderRow(const Rung& rung);
+std::string LadderText(const Ladder& ladder);
+
+/// Puts the rungs of such a text on top; whatever else it holds is passed over. Its foot is left
+/// out where the ladder has got that strength already. Returns what is wrong with it, or nothing.
+std::string JoinLadder(Ladder& ladder, const std::string& text);
+
+}  // namespace brastel

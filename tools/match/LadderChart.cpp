@@ -1,0 +1,220 @@
+#include "tools/match/LadderChart.h"
+
+#include "tools/match/StrengthName.h"
+#include "tools/match/TableText.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace brastel {
+
+namespace {
+
+// ---- Measures, in pixels ----
+
+constexpr double Width = 860;
+constexpr double Top = 96;
+constexpr double RowHeight = 34;
+/// Below the lowest row: the numbers of the axis and what they mean.
+constexpr double Foot = 64;
+constexpr double PlotLeft = 128;
+constexpr double PlotRight = 704;
+/// Margin of the texts at both sides.
+constexpr double Margin = 24;
+constexpr double TextDrop = 4.5;
+constexpr double CapHeight = 5;
+constexpr double Radius = 5;
+constexpr double ArrowLength = 34;
+
+/// Two colour schemes; the picture is read without its page, too, so it has a ground of its own.
+constexpr const char* Style = R"(  <style>
+    .ground { fill: #ffffff }
+    text { fill: #57606a; font: 13px system-ui, "Segoe UI", "DejaVu Sans", sans-serif }
+    .title { fill: #1f2328; font-size: 19px; font-weight: 600 }
+    .name { fill: #1f2328; font-size: 14px; text-anchor: end }
+    .terms { font-size: 12px }
+    .value { text-anchor: end }
+    .tick, .axis { text-anchor: middle }
+    .grid { stroke: #e3e6ea }
+    .zero { stroke: #a8b0b9 }
+    .error { stroke: #1a7f9c; stroke-width: 2; fill: none }
+    .mark { fill: #1a7f9c }
+    .steps { stroke: #c217c2; stroke-opacity: .28; stroke-width: 2; fill: none }
+    @media (prefers-color-scheme: dark) {
+      .ground { fill: #0d1117 }
+      text { fill: #9aa4af }
+      .title, .name { fill: #e6edf3 }
+      .grid { stroke: #21262d }
+      .zero { stroke: #59626c }
+      .error { stroke: #3fc6e6 }
+      .mark { fill: #3fc6e6 }
+      .steps { stroke: #ff5cff; stroke-opacity: .4 }
+    }
+  </style>
+)";
+
+/// The points at the ends of the axis, both ticks, and between one tick and the next.
+struct Axis {
+    double Least;
+    double Most;
+    double Step;
+
+    double At(double points) const {
+        return PlotLeft + (PlotRight - PlotLeft) * (points - Least) / (Most - Least);
+    }
+};
+
+/// One, two or five, and zeros, so that there are about seven.
+double TickStep(double span) {
+    const double rough = span / 7;
+    const double power = std::pow(10, std::floor(std::log10(rough)));
+    for (const double factor : {1, 2, 5}) {
+        if (rough <= factor * power) return factor * power;
+    }
+    return 10 * power;
+}
+
+Axis AxisOf(const Ladder& ladder) {
+    double least = 0;
+    double most = 10;
+    for (const Rung& rung : ladder.Rungs) {
+        if (rung.Height.Kind == Certainty::Unknown) continue;
+        least = std::min(least, rung.Height.Points - rung.Height.Error);
+        most = std::max(most, rung.Height.Points + rung.Height.Error);
+    }
+    const double step = TickStep(most - least);
+    return {std::floor(least / step) * step, std::ceil(most / step) * step, step};
+}
+
+// ---- Elements ----
+
+/// A text in XML.
+std::string Escaped(const std::string& text) {
+    std::string escaped;
+    for (const char byte : text) {
+        switch (byte) {
+            case '&':
+                escaped += "&amp;";
+                break;
+            case '<':
+                escaped += "&lt;";
+                break;
+            default:
+                escaped += byte;
+        }
+    }
+    return escaped;
+}
+
+std::string Text(const char* kind, double x, double y, const std::string& text) {
+    return Format("  <text class=\"%s\" x=\"%.1f\" y=\"%.1f\">", kind, x, y) + Escaped(text) +
+           "</text>\n";
+}
+
+std::string Line(const char* kind, double x1, double y1, double x2, double y2) {
+    return Format("  <line class=\"%s\" x1=\"%.1f\" y1=\"%.1f\" x2=\"%.1f\" y2=\"%.1f\"/>\n", kind,
+                  x1, y1, x2, y2);
+}
+
+double RowOf(const Ladder& ladder, std::size_t n) {
+    return Top + RowHeight * (static_cast<double>(ladder.Rungs.size() - n) - 0.5);
+}
+double Bottom(const Ladder& ladder) {
+    return Top + RowHeight * static_cast<double>(ladder.Rungs.size());
+}
+
+std::string Grid(const Ladder& ladder, const Axis& axis) {
+    std::string grid;
+    const double bottom = Bottom(ladder);
+    const int ticks = static_cast<int>(std::lround((axis.Most - axis.Least) / axis.Step));
+    for (int n = 0; n <= ticks; ++n) {
+        const double points = axis.Least + n * axis.Step;
+        const double x = axis.At(points);
+        grid += Line(points == 0 ? "zero" : "grid", x, Top, x, bottom);
+        grid += Text("tick", x, bottom + 20, Format("%.0f", points));
+    }
+    return grid;
+}
+
+/// From rung to rung, as far as they are known.
+std::string Steps(const Ladder& ladder, const Axis& axis) {
+    std::string points;
+    for (std::size_t n = 0; n < ladder.Rungs.size(); ++n) {
+        const Elo& height = ladder.Rungs[n].Height;
+        if (height.Kind == Certainty::Unknown) break;
+        points += Format("%.1f,%.1f ", axis.At(height.Points), RowOf(ladder, n));
+    }
+    return "  <polyline class=\"steps\" points=\"" + points + "\"/>\n";
+}
+
+std::string ErrorBar(double left, double right, double y) {
+    std::string bar = Line("error", left, y, right, y);
+    for (const double x : {left, right}) {
+        bar += Line("error", x, y - CapHeight, x, y + CapHeight);
+    }
+    return bar;
+}
+
+/// To the right or, for a negative length, to the left.
+std::string Arrow(double x, double y, double length) {
+    const double barb = std::copysign(CapHeight + 1, length);
+    return Format(
+        "  <path class=\"error\" d=\"M%.1f %.1f h%.1f m%.1f -%.1f l%.1f %.1f l%.1f "
+        "%.1f\"/>\n",
+        x, y, length, -barb, CapHeight, barb, CapHeight, -barb, CapHeight);
+}
+
+std::string Mark(const Rung& rung, const Axis& axis, double y) {
+    const Elo& height = rung.Height;
+    const double x = axis.At(height.Points);
+    const std::string circle =
+        Format("  <circle class=\"mark\" cx=\"%.1f\" cy=\"%.1f\" r=\"%.1f\"/>\n", x, y, Radius);
+    switch (height.Kind) {
+        case Certainty::Unknown:
+            return {};
+        case Certainty::AtLeast:
+            return Arrow(x, y, ArrowLength) + circle;
+        case Certainty::AtMost:
+            return Arrow(x, y, -ArrowLength) + circle;
+        case Certainty::Estimate:
+            break;
+    }
+    if (height.Error == 0) return circle;
+    return ErrorBar(axis.At(height.Points - height.Error), axis.At(height.Points + height.Error),
+                    y) +
+           circle;
+}
+
+std::string Rows(const Ladder& ladder, const Axis& axis) {
+    std::string rows;
+    for (std::size_t n = 0; n < ladder.Rungs.size(); ++n) {
+        const Rung& rung = ladder.Rungs[n];
+        const double y = RowOf(ladder, n);
+        rows += Text("name", PlotLeft - 16, y + TextDrop, StrengthName(rung.Level));
+        rows += Mark(rung, axis, y);
+        rows += Text("value", Width - Margin, y + TextDrop, rung.Cells[HeightColumn]);
+    }
+    return rows;
+}
+
+}  // namespace
+
+std::string LadderChart(const Ladder& ladder) {
+    if (ladder.Rungs.empty()) return {};
+    const Axis axis = AxisOf(ladder);
+    const double height = Bottom(ladder) + Foot;
+    const std::string title = "How strong the computer plays";
+    const std::string unit = "Elo points above " + StrengthName(ladder.Rungs.front().Level) +
+                             ", with 95 % error bars that add up from strength to strength";
+    return Format(
+               "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %.0f %.0f\" "
+               "width=\"%.0f\" height=\"%.0f\" role=\"img\">\n",
+               Width, height, Width, height) +
+           "  <title>" + title + "</title>\n" + Style +
+           "  <rect class=\"ground\" width=\"100%\" height=\"100%\"/>\n" +
+           Text("title", Margin, 40, title) + Text("terms", Margin, 64, ladder.Terms) +
+           Grid(ladder, axis) + Steps(ladder, axis) + Rows(ladder, axis) +
+           Text("axis", (PlotLeft + PlotRight) / 2, height - 20, unit) + "</svg>\n";
+}
+
+}  // namespace brastel
