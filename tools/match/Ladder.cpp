@@ -52,14 +52,13 @@ LadderCells CellsOf(Int16 level, const MatchScore& score) {
 }
 
 void AddFoot(Ladder& ladder, Int16 level, const LadderCells& cells) {
-    ladder.Rungs.push_back({level, {}, {}, cells});
+    ladder.Rungs.push_back({level, {}, cells});
     // Not by a literal, at which gcc 12 sees an overlap that is none.
     ladder.Rungs.back().Cells[HeightColumn].assign(1, '0');
 }
 
-void AddRung(Ladder& ladder, Int16 level, const Elo& step, const LadderCells& cells) {
-    const Elo height = Sum(ladder.Rungs.back().Height, step);
-    ladder.Rungs.push_back({level, step, height, cells});
+void AddRung(Ladder& ladder, Int16 level, const Elo& height, const LadderCells& cells) {
+    ladder.Rungs.push_back({level, height, cells});
     ladder.Rungs.back().Cells[HeightColumn] = EloText(height);
 }
 
@@ -84,21 +83,42 @@ std::optional<LadderCells> ReadCells(const std::string& line) {
     return std::getline(rest, cell) ? std::nullopt : std::optional(cells);
 }
 
-std::string JoinRow(Ladder& ladder, Int16 level, const LadderCells& cells) {
-    const Int16 top = ladder.Rungs.empty() ? Int16{0} : ladder.Rungs.back().Level;
-    const std::string name = StrengthName(level);
-    if (cells[StepColumn].empty()) {
-        if (top == 0) AddFoot(ladder, level, cells);
-        return top == 0 || top == level ? "" : name + " does not follow on " + StrengthName(top);
-    }
-    const auto step = ReadElo(cells[StepColumn]);
-    if (!step) return name + " has no difference that can be read";
-    if (top == 0 || level != top + 1) {
-        return name + " does not follow on " + (top == 0 ? "any strength" : StrengthName(top));
-    }
-    AddRung(ladder, level, *step, cells);
-    return {};
+std::string DoesNotFollow(const Ladder& ladder, int level) {
+    return StrengthName(level) + " does not follow on " +
+           (ladder.Rungs.empty() ? "anything" : StrengthName(ladder.Rungs.back().Level));
 }
+
+/// The rows of one text, which begins at its foot.
+class Part {
+public:
+    explicit Part(Ladder& ladder) : Whole(ladder) {}
+
+    /// Returns what is wrong with it, or nothing.
+    std::string Join(Int16 level, const LadderCells& cells) {
+        HasRows = true;
+        return cells[StepColumn].empty() ? JoinFoot(level, cells) : JoinRung(level, cells);
+    }
+    bool IsEmpty() const { return !HasRows; }
+
+private:
+    std::string JoinFoot(Int16 level, const LadderCells& cells) {
+        if (Whole.Rungs.empty()) AddFoot(Whole, level, cells);
+        if (Whole.Rungs.back().Level != level) return DoesNotFollow(Whole, level);
+        Foot = Whole.Rungs.back().Height;
+        return {};
+    }
+    std::string JoinRung(Int16 level, const LadderCells& cells) {
+        const auto height = ReadElo(cells[HeightColumn]);
+        if (!height) return StrengthName(level) + " stands at no height that can be read";
+        if (!Foot || Whole.Rungs.back().Level != level - 1) return DoesNotFollow(Whole, level);
+        AddRung(Whole, level, Sum(*Foot, *height), cells);
+        return {};
+    }
+
+    Ladder& Whole;
+    std::optional<Elo> Foot;
+    bool HasRows = false;
+};
 
 }  // namespace
 
@@ -110,7 +130,8 @@ Ladder BeginLadder(const MatchTerms& terms, int games) {
 
 void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score) {
     if (ladder.Rungs.empty()) AddFoot(ladder, terms.Second, CellsOf(terms.Second, score.Second));
-    AddRung(ladder, terms.First, score.Difference, CellsOf(terms.First, score));
+    const Elo height = Sum(ladder.Rungs.back().Height, score.Difference);
+    AddRung(ladder, terms.First, height, CellsOf(terms.First, score));
 }
 
 std::string LadderHead(const Ladder& ladder) {
@@ -127,7 +148,7 @@ std::string LadderText(const Ladder& ladder) {
 
 std::string JoinLadder(Ladder& ladder, const std::string& text) {
     std::istringstream lines(text);
-    int rows = 0;
+    Part part(ladder);
     for (std::string line, last; std::getline(lines, line);) {
         const auto cells = ReadCells(line);
         // The terms are the last line before the table.
@@ -135,11 +156,10 @@ std::string JoinLadder(Ladder& ladder, const std::string& text) {
         if (!Trimmed(line).empty()) last = Trimmed(line);
         const auto level = cells ? ReadNumber((*cells)[LevelColumn], 1, MaxPly) : std::nullopt;
         if (!level) continue;
-        ++rows;
-        const std::string wrong = JoinRow(ladder, ToInt16(static_cast<int>(*level)), *cells);
+        std::string wrong = part.Join(ToInt16(static_cast<int>(*level)), *cells);
         if (!wrong.empty()) return wrong;
     }
-    return rows == 0 ? "there is no ladder in it" : "";
+    return part.IsEmpty() ? "there is no ladder in it" : "";
 }
 
 }  // namespace brastel

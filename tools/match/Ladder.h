@@ -22,8 +22,6 @@ using LadderCells = std::array<std::string, LadderColumns>;
 
 struct Rung {
     Int16 Level = 0;
-    /// Above the strength below; 0 at the foot.
-    Elo Step;
     /// Above the foot.
     Elo Height;
     /// The row of the table.
@@ -49,8 +47,8 @@ std::string LadderHead(const Ladder& ladder);
 std::string LadderRow(const Rung& rung);
 std::string LadderText(const Ladder& ladder);
 
-/// Puts the rungs of such a text on top; whatever else it holds is passed over. Its foot is left
-/// out where the ladder has got that strength already. Returns what is wrong with it, or nothing.
+/// Puts the rungs of such a text on top; its foot must be the topmost strength before, if there is
+/// any. Whatever else it holds is passed over. Returns what is wrong with it, or nothing.
 std::string JoinLadder(Ladder& ladder, const std::string& text);
 
 }  // namespace brastel

@@ -167,7 +167,7 @@ std::string Arrow(double x, double y, double length) {
 std::string Mark(const Rung& rung, const Axis& axis, double y) {
     const Elo& height = rung.Height;
     const double x = axis.At(height.Points);
-    const std::string circle =
+    std::string circle =
         Format("  <circle class=\"mark\" cx=\"%.1f\" cy=\"%.1f\" r=\"%.1f\"/>\n", x, y, Radius);
     switch (height.Kind) {
         case Certainty::Unknown:

@@ -8,11 +8,11 @@
 #include "tools/match/StrengthName.h"
 
 #include <algorithm>
+#include <array>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
-#include <fstream>
-#include <sstream>
+#include <optional>
 #include <unistd.h>
 
 namespace {
@@ -24,7 +24,7 @@ int Complain(const std::string& what, int status) {
     return status;
 }
 
-// ---- Writing ----
+// ---- Files ----
 
 int CannotWrite(const std::string& path) {
     const std::string name = path.empty() ? "standard output" : path;
@@ -44,6 +44,21 @@ int WriteText(const std::string& path, const std::string& text) {
     const bool isWritten = std::fputs(text.c_str(), file) >= 0 && std::fflush(file) == 0;
     const bool isClosed = file == stdout || std::fclose(file) == 0;
     return isWritten && isClosed ? Done : CannotWrite(path);
+}
+
+/// Nothing, and the cause in errno, where the file cannot be read to its end.
+std::optional<std::string> ReadText(const std::string& path) {
+    std::FILE* const file = std::fopen(path.c_str(), "r");
+    if (file == nullptr) return std::nullopt;
+    std::string text;
+    std::array<char, 4096> part{};
+    while (const std::size_t count = std::fread(part.data(), 1, part.size(), file)) {
+        text.append(part.data(), count);
+    }
+    const int error = std::ferror(file) == 0 ? 0 : errno;
+    std::fclose(file);
+    errno = error;
+    return error == 0 ? std::optional(text) : std::nullopt;
 }
 
 // ---- Progress: one line, for people only ----
@@ -162,13 +177,10 @@ int PlayLadder(const Options& options) {
 int JoinLadders(const Options& options) {
     Ladder ladder;
     for (const std::string& path : options.Joined) {
-        std::ifstream file(path);
-        std::stringstream text;
-        text << file.rdbuf();
-        if (!file || !text)
-            return Complain("cannot read " + path + ": " + std::strerror(errno), BadPath);
-        const std::string wrong = JoinLadder(ladder, text.str());
-        if (!wrong.empty()) return Complain("cannot join " + path + ": " + wrong, BadPath);
+        const auto text = ReadText(path);
+        if (!text) return Complain("cannot read " + path + ": " + std::strerror(errno), BadPath);
+        const std::string wrong = JoinLadder(ladder, *text);
+        if (!wrong.empty()) return Complain(path + " cannot be joined: " += wrong, BadPath);
     }
     const int status = WriteText(options.TableFile, LadderText(ladder));
     return status != Done ? status : DrawChart(options, ladder);

@@ -44,7 +44,9 @@ std::string SavedGameName(const MatchTerms& terms, int number) {
 std::string PrepareFolder(const std::string& folder, const MatchTerms& terms, int games) {
     constexpr int Permissions = 0777;
     const std::string what = "cannot save games in " + folder + ": ";
-    if (mkdir(folder.c_str(), Permissions) != 0 && errno != EEXIST) return what + SystemError();
+    // A new folder is empty.
+    if (mkdir(folder.c_str(), Permissions) == 0) return {};
+    if (errno != EEXIST) return what + SystemError();
     struct stat state {};
     if (stat(folder.c_str(), &state) != 0) return what + SystemError();
     if (!S_ISDIR(state.st_mode)) return what + std::strerror(ENOTDIR);

@@ -1,0 +1,85 @@
+#!/usr/bin/env bash
+# The command line of brastel-match: what it refuses, what it writes and how it ends. Argument: the
+# program.
+set -euo pipefail
+
+Program=$(realpath "$1")
+Folder=$(mktemp -d)
+trap 'rm -rf "$Folder"' EXIT
+cd "$Folder"
+
+fail() {
+    echo "FAILED: $*" >&2
+    cat out err >&2
+    exit 1
+}
+
+# Runs the program, whose status must be the one given.
+expect() {
+    local status=$1 got=0
+    shift
+    "$Program" "$@" >out 2>err || got=$?
+    [ "$got" -eq "$status" ] || fail "$* ended with status $got"
+}
+
+# Runs it in vain: nothing is played, and the complaint contains a text.
+refuse() {
+    local status=$1 text=$2
+    shift 2
+    expect "$status" "$@"
+    [ ! -s out ] || fail "$* wrote something"
+    grep -qF -- "$text" err || fail "$* does not complain of $text"
+}
+
+# ---- Bad arguments and paths ----
+
+touch file
+for bad in "--red 12" "--blue nobody" "--blue" "--pieces 7" "--pieces 0" "--games 0" "--games 1.5" \
+    "--seed -1" "--random-moves 11" "--jobs 0" "--red 1 --red 2" "--ladder --red 3" \
+    "--ladder --alternate" "--from 2" "--table t" "--chart c" "--join file" \
+    "--ladder --from 5 --to 5" "--unknown" "file"; do
+    last=${bad##*--}
+    # shellcheck disable=SC2086
+    refuse 1 "${last%% *}" $bad
+done
+refuse 1 "--save" --save ""
+refuse 2 "file: Not a directory" --save file
+refuse 2 "none/games: No such file or directory" --save none/games
+refuse 2 "none/t: No such file or directory" --ladder --table none/t
+refuse 2 "none/c: No such file or directory" --ladder --chart none/c
+refuse 2 "cannot read none" --ladder --join none
+refuse 2 "cannot read ." --ladder --join .
+refuse 2 "file cannot be joined: there is no ladder in it" --ladder --join file
+
+# ---- A match ----
+
+expect 0 --red easy --blue MEDIUM --games 6 --alternate --save games --jobs 2
+[ ! -s err ] || fail "there is progress where nobody looks"
+grep -q '^| games  *| *6 |$' out || fail "there are not six games"
+[ "$(ls games | tr '\n' ' ')" = "0001-Easy-Medium.txt 0002-Medium-Easy.txt 0003-Easy-Medium.txt \
+0004-Medium-Easy.txt 0005-Easy-Medium.txt 0006-Medium-Easy.txt " ] || fail "$(ls games)"
+refuse 2 "0001-Easy-Medium.txt exists" --red 1 --blue 2 --games 6 --alternate --save games
+"$Program" --red 1 --blue 1 --games 2 >/dev/full 2>err && fail "a full disk is not noticed"
+grep -q "cannot write standard output" err || fail "a full disk is not told"
+
+# ---- The ladder ----
+
+expect 0 --ladder --to 3 --games 4 --table table.md --chart chart.svg
+[ "$(grep -c '^| *[1-3] |' table.md)" -eq 3 ] || fail "$(cat table.md)"
+grep -q '</svg>' chart.svg || fail "$(cat chart.svg)"
+expect 0 --ladder --join table.md
+cmp out table.md || fail "a ladder is not read as it was written"
+
+# ---- Interrupts: the results so far ----
+
+for signal in INT TERM; do
+    "$Program" --red 1 --blue 1 --games 1000000 --jobs 2 --save "stopped$signal" >out 2>err &
+    until [ -n "$(ls "stopped$signal" 2>/dev/null)" ]; do sleep 0.05; done
+    status=0
+    kill -$signal $!
+    wait $! || status=$?
+    [ $status -eq 130 ] || fail "status $status after SIG$signal"
+    saved=$(ls "stopped$signal" | wc -l)
+    grep -q "interrupted after $saved of 1000000 games" err || fail "$saved games are saved"
+    grep -q "^| games  *| *$saved |\$" out || fail "$saved games are saved"
+done
