@@ -13,11 +13,12 @@ namespace {
 // ---- Measures, in pixels ----
 
 constexpr double Width = 860;
-constexpr double Top = 96;
+constexpr double Top = 116;
 constexpr double RowHeight = 34;
 /// Below the lowest row: the numbers of the axis and what they mean.
 constexpr double Foot = 64;
 constexpr double PlotLeft = 128;
+constexpr double NameGap = 16;
 constexpr double PlotRight = 704;
 /// Margin of the texts at both sides.
 constexpr double Margin = 24;
@@ -34,6 +35,7 @@ constexpr const char* Style = R"(  <style>
     .name { fill: #1f2328; font-size: 14px; text-anchor: end }
     .terms { font-size: 12px }
     .value { text-anchor: end }
+    .caption { fill: #57606a; font-size: 12px }
     .tick, .axis { text-anchor: middle }
     .grid { stroke: #e3e6ea }
     .zero { stroke: #a8b0b9 }
@@ -44,6 +46,7 @@ constexpr const char* Style = R"(  <style>
       .ground { fill: #0d1117 }
       text { fill: #9aa4af }
       .title, .name { fill: #e6edf3 }
+      .caption { fill: #9aa4af }
       .grid { stroke: #21262d }
       .zero { stroke: #59626c }
       .error { stroke: #3fc6e6 }
@@ -186,11 +189,12 @@ std::string Mark(const Rung& rung, const Axis& axis, double y) {
 }
 
 std::string Rows(const Ladder& ladder, const Axis& axis) {
-    std::string rows;
+    std::string rows = Text("name caption", PlotLeft - NameGap, Top - 10, "Strength") +
+                       Text("value caption", Width - Margin, Top - 10, "Elo points");
     for (std::size_t n = 0; n < ladder.Rungs.size(); ++n) {
         const Rung& rung = ladder.Rungs[n];
         const double y = RowOf(ladder, n);
-        rows += Text("name", PlotLeft - 16, y + TextDrop, StrengthName(rung.Level));
+        rows += Text("name", PlotLeft - NameGap, y + TextDrop, StrengthName(rung.Level));
         rows += Mark(rung, axis, y);
         rows += Text("value", Width - Margin, y + TextDrop, rung.Cells[HeightColumn]);
     }
@@ -205,7 +209,7 @@ std::string LadderChart(const Ladder& ladder) {
     const double height = Bottom(ladder) + Foot;
     const std::string title = "How strong the computer plays";
     const std::string unit = "Elo points above " + StrengthName(ladder.Rungs.front().Level) +
-                             ", with 95 % error bars that add up from strength to strength";
+                             ", with 95 % error bars that add up on the way up";
     return Format(
                "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %.0f %.0f\" "
                "width=\"%.0f\" height=\"%.0f\" role=\"img\">\n",
