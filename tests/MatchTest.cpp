@@ -6,8 +6,8 @@
 #include "tools/match/PlayMatch.h"
 #include "tools/match/SavedGames.h"
 
-#include <cmath>
-#include <regex>
+#include <set>
+#include <tuple>
 
 namespace brastel {
 

@@ -90,8 +90,8 @@ bool PlayAll(const Options& options) {
     for (std::int64_t played = 0; played < options.Games; ++played) {
         const std::int64_t game = options.First + played;
         try {
-            const std::uint32_t seed = SeedOf(static_cast<std::uint64_t>(options.Seed),
-                                              static_cast<std::uint64_t>(game));
+            const std::uint32_t seed =
+                SeedOf(static_cast<std::uint64_t>(options.Seed), static_cast<std::uint64_t>(game));
             PlaySoakGame(seed, static_cast<int>(game % LayoutCount));
         } catch (const Inconsistency& fault) {
             ReportFault(fault, options, game);
