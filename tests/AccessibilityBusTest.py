@@ -92,9 +92,17 @@ wait_to_hear("Red piece 2 from row 9, column 5 to row 8, column 5")
 assert square(9, 5).name == "row 9, column 5: empty", square(9, 5).name
 assert find(board, "Blue's turn circle: to move")
 
-# A button and a menu.
+# Buttons, menus and a dialog. Calls come back at once: one that waited for the end of a dialog or a
+# search would be given up by the bus.
 do(find(board, "Backward"), "Press")
 wait_to_hear("Taken back")
+do(find(program, "Rules"), "Press")
+rules = wait_for("the rules", lambda: find(program, "Orvel Game Rules"))
+do(find(rules, "OK"), "Press")
+wait_for("the end of the rules", lambda: not find(program, "Orvel Game Rules"))
+do(find(program, "God"), "Press")
+do(find(board, "Hint"), "Press")
+wait_to_hear("Blue piece")
 do(find(program, "New Game"), "Press")
 wait_to_hear("At the start")
 print("The accessibility bus works.")

@@ -2,6 +2,7 @@
 #include "play/GameState.h"
 #include "tests/WindowTest.h"
 
+#include <QAbstractButton>
 #include <QAccessible>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
@@ -36,8 +37,10 @@ protected:
     QString NameOf(const char* control) {
         return NameOf(QAccessible::queryAccessibleInterface(Control<QWidget>(control)));
     }
+    /// Also lets be done what was only asked for.
     void Do(int square, const QString& action) {
         Square(square)->actionInterface()->doAction(action);
+        QCoreApplication::processEvents();
     }
     void PressSquare(int square) { Do(square, QAccessibleActionInterface::pressAction()); }
 
@@ -151,6 +154,19 @@ TEST_F(AccessibilityTest, MovesAndMessagesAreReadOut) {
     EXPECT_TRUE(ReadOut().starts_with("Taken back: ")) << "not told as a move";
     ChooseFromMenu("mnu_Options", "mnu_NewGame");
     EXPECT_EQ(ReadOut(), "At the start");
+    SelectStartLayout(FreeSetupLayout);
+    ChooseFromMenu("mnu_Options", "mnu_NewGame");
+    EXPECT_EQ(ReadOut(), "At the start, the board is empty");
+}
+
+/// A player who does not see the board would wait for something to happen.
+TEST_F(AccessibilityTest, WhatIsRefusedIsReadOut) {
+    OpenForTwo(3, 68, 44);
+    Forget();
+    PressSquare(58);
+    EXPECT_EQ(ReadOut(), "nothing here");
+    Do(66, "Give ring");
+    EXPECT_EQ(ReadOut(), "the ring is not given");
 }
 
 TEST_F(AccessibilityTest, TheComputersAnswerIsReadOut) {
@@ -232,6 +248,8 @@ TEST_F(AccessibilityTest, SquaresCannotBePressedAtTheWrongTime) {
                         PressSquare(62);
                         // A dialog behind a dialog could not be left.
                         Control<QAction>("mnuFileItem1")->trigger();
+                        Control<QAbstractButton>("btn_Hint")->click();
+                        QCoreApplication::processEvents();
                         dialog.close();
                     }});
     EXPECT_EQ(Pos, position);

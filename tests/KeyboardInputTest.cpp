@@ -3,6 +3,7 @@
 #include "tests/WindowTest.h"
 #include "ui/KeyboardInput.h"
 
+#include <QAbstractButton>
 #include <QMenu>
 
 namespace brastel {
@@ -140,18 +141,22 @@ TEST_F(KeyboardInputTest, AKeyEndsADragOfTheMouse) {
     EXPECT_EQ(Pos, position);
 }
 
-/// A menu command can take away the piece that is held.
-TEST_F(KeyboardInputTest, AHeldPieceMayVanish) {
+/// The piece that is held could be another one after a step along the record, or none.
+TEST_F(KeyboardInputTest, AChangeOfTheBoardLetsGo) {
     OpenForTwo(3, 68, 44);
-    Go(66);
-    Key(Qt::Key_Space);
-    SelectStartLayout(0);
-    Control<QAction>("mnu_NewGame")->trigger();
-    const Position position = Pos;
-    Go(58);
-    Key(Qt::Key_Space);
-    EXPECT_EQ(Held(), NoSquare);
-    EXPECT_EQ(Pos, position);
+    const auto changes = std::to_array<std::function<void()>>({
+        [this] { Control<QAbstractButton>("btn_Hint")->click(); },
+        [this] { Control<QAbstractButton>("btn_Backward")->click(); },
+        [this] { Control<QAction>("mnu_NewGame")->trigger(); },
+    });
+    for (const auto& change : changes) {
+        Go(66);
+        Key(Qt::Key_Space);
+        EXPECT_EQ(Held(), 66);
+        change();
+        QCoreApplication::processEvents();
+        EXPECT_EQ(Held(), NoSquare);
+    }
 }
 
 TEST_F(KeyboardInputTest, KeysAreDroppedWhileTheComputerThinks) {

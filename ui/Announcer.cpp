@@ -18,7 +18,9 @@ constexpr auto RetryAfter = std::chrono::milliseconds(50);
 /// What led from one position to the present one, in words; empty if nothing did.
 QString NewsSince(const Position& before) {
     if (before == Pos) return {};
-    if (Pos.MoveCount == 1 && !InFreeSetup()) return "At the start";
+    if (Pos.MoveCount == 1 && Pos.RedPlaced == 0) {
+        return InFreeSetup() ? "At the start, the board is empty" : "At the start";
+    }
     const bool isTakenBack = Pos.MoveCount < before.MoveCount;
     return (isTakenBack ? "Taken back: " : "") +
            QString::fromStdString(ChangesInWords(before, Pos));

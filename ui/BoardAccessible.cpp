@@ -3,11 +3,11 @@
 #include "play/Words.h"
 #include "ui/Announcer.h"
 #include "ui/BoardView.h"
+#include "ui/Command.h"
 #include "ui/KeyboardInput.h"
 
 #include <QAbstractButton>
 #include <QAccessibleWidget>
-#include <QApplication>
 #include <QLabel>
 #include <QPointer>
 
@@ -92,13 +92,17 @@ public:
         if (name == pressAction()) return {"Space"};
         return name == RingAction ? QStringList("R") : QStringList();
     }
-    /// Dialogs keep mouse and keyboard from the board; they do not keep off these calls.
+    /// The caller waits for this to end, so it does not wait for the computer's answer.
     void doAction(const QString& name) override {
-        if (!View->isVisible() || QApplication::activeModalWidget() != nullptr) return;
-        View->setFocus();
-        Keyboard().FocusOn(Square);
-        if (name == pressAction()) Keyboard().Press();
-        if (name == RingAction) Keyboard().DoubleClick();
+        const bool isPress = name == pressAction();
+        const bool isRing = name == RingAction;
+        RunLater(View,
+                 [view = View.get(), &keyboard = Keyboard(), square = Square, isPress, isRing] {
+                     view->setFocus();
+                     keyboard.FocusOn(square);
+                     if (isPress) keyboard.Press();
+                     if (isRing) keyboard.DoubleClick();
+                 });
     }
 
 protected:

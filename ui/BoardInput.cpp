@@ -4,6 +4,11 @@
 
 namespace brastel {
 
+/// Rounding would push it over a square's edge.
+QPoint BoardInput::PixelOf(const QMouseEvent& event) {
+    return {qFloor(event.position().x()), qFloor(event.position().y())};
+}
+
 void BoardInput::Drop(Piece dragged, QPoint point) {
     const Piece target = BoardView::PieceAt(point);
     if (target) {

@@ -2,6 +2,7 @@
 
 #include "core/Position.h"
 
+#include <QMouseEvent>
 #include <QObject>
 #include <QPoint>
 
@@ -25,6 +26,8 @@ signals:
     void Form_MouseUp(int x, int y);
 
 protected:
+    /// The logical pixel that holds the pointer.
+    static QPoint PixelOf(const QMouseEvent& event);
     /// Drops the piece at a point of the form where no control lies.
     void Drop(Piece dragged, QPoint point);
 };

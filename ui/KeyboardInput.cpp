@@ -61,7 +61,7 @@ bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
             return Handle(static_cast<QKeyEvent&>(*event));
         case QEvent::MouseButtonPress:
         case QEvent::MouseButtonDblClick:
-            FollowMouse(static_cast<QMouseEvent&>(*event).position().toPoint());
+            FollowMouse(PixelOf(static_cast<QMouseEvent&>(*event)));
             return false;
         case QEvent::FocusIn:
             if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) Marks.IsShown = true;
@@ -120,14 +120,22 @@ void KeyboardInput::FocusOn(int square) {
     if (IsThinking || !IsOnBoard(square)) return;
     Marks.Focus = square;
     ShowMarks();
-    emit FocusMoved(square);
+    if (Form->hasFocus()) emit FocusMoved(square);
+}
+
+void KeyboardInput::Try(const std::function<void()>& gesture, const QString& failure) {
+    const Position before = Pos;
+    gesture();
+    if (Pos == before) emit Told(failure);
 }
 
 void KeyboardInput::Press() {
     if (IsThinking) return;
+    Mouse->Cancel();
     if (Marks.Held != NoSquare) return DropHere();
     if (PieceOn(Marks.Focus)) return PickUp();
-    emit Form_MouseUp(FocusPoint().x(), FocusPoint().y());
+    const QPoint point = FocusPoint();
+    Try([&] { emit Form_MouseUp(point.x(), point.y()); }, "nothing here");
 }
 
 void KeyboardInput::PickUp() {
@@ -136,32 +144,31 @@ void KeyboardInput::PickUp() {
     emit Told(PieceName(Marks.Held) + " picked up");
 }
 
-/// The piece may have gone meanwhile, taken away by a menu command.
 void KeyboardInput::DropHere() {
     const Piece held = PieceOn(Marks.Held);
-    Marks.Held = NoSquare;
-    ShowMarks();
-    if (!held) return;
-    const int moveCount = Pos.MoveCount;
-    Drop(held, FocusPoint());
-    if (Pos.MoveCount == moveCount) {
-        emit Told(QString::fromStdString(PieceInWords(held)) + " stays");
-    }
+    const QString name = PieceName(Marks.Held);
+    Release();
+    Try([&] { Drop(held, FocusPoint()); }, name + " stays");
 }
 
 void KeyboardInput::DoubleClick() {
     if (IsThinking) return;
+    Mouse->Cancel();
     LetGo();
     const Piece piece = PieceOn(Marks.Focus);
-    if (piece) emit Piece_DblClick(piece);
+    if (!piece) return emit Told("nothing here");
+    Try([&] { emit Piece_DblClick(piece); }, "the ring is not given");
 }
 
 void KeyboardInput::LetGo() {
     if (Marks.Held == NoSquare) return;
-    const QString name = PieceName(Marks.Held);
+    emit Told(PieceName(Marks.Held) + " put back");
+    Release();
+}
+
+void KeyboardInput::Release() {
     Marks.Held = NoSquare;
     ShowMarks();
-    emit Told(name + " put back");
 }
 
 }  // namespace brastel

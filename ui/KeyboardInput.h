@@ -3,6 +3,8 @@
 #include "ui/BoardInput.h"
 #include "ui/BoardView.h"
 
+#include <functional>
+
 class QKeyEvent;
 
 namespace brastel {
@@ -33,6 +35,9 @@ public:
     void DoubleClick();
     void LetGo();
 
+    /// Lets go without a word, for a change of the board that is told itself.
+    void Release();
+
 signals:
     void FocusMoved(int square);
     /// Something to be read out that changes nothing on the board.
@@ -49,6 +54,8 @@ private:
     void PickUp();
     void DropHere();
     QPoint FocusPoint() const;
+    /// Makes a gesture, and tells if nothing came of it: who does not see the board would wait.
+    void Try(const std::function<void()>& gesture, const QString& failure);
 
     BoardView* const Form;
     MouseInput* const Mouse;

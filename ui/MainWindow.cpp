@@ -8,6 +8,7 @@
 #include "ui/Announcer.h"
 #include "ui/BoardAccessible.h"
 #include "ui/BoardView.h"
+#include "ui/Command.h"
 #include "ui/FileDialog.h"
 #include "ui/Icon.h"
 #include "ui/KeyboardInput.h"
@@ -145,9 +146,12 @@ void MainWindow::ConnectInput() {
     connect(Keyboard, &KeyboardInput::FocusMoved, this,
             [this](int square) { TellSquareFocused(*Form, square); });
     connect(Keyboard, &KeyboardInput::Told, Voice, &Announcer::Say);
-    connect(btn_Forward, &QPushButton::clicked, StepForward);
-    connect(btn_Backward, &QPushButton::clicked, StepBack);
-    connect(btn_Hint, &QPushButton::clicked, Hint);
+    const std::pair<QPushButton*, void (*)()> commands[] = {
+        {btn_Forward, StepForward}, {btn_Backward, StepBack}, {btn_Hint, Hint}};
+    for (const auto& [button, command] : commands) {
+        connect(button, &QPushButton::clicked, this,
+                [this, run = command] { RunLater(this, run); });
+    }
 }
 
 void MainWindow::ConnectGestures(const BoardInput& input) {
@@ -188,14 +192,22 @@ void MainWindow::ChangePieceNumberCommand() {
 void MainWindow::ExitCommand() { close(); }
 
 void MainWindow::PlacePieces() {
+    LetGo();
     Form->update();
     Voice->FollowPosition();
 }
 
+/// A piece that is held may no longer be there, or no longer be the one that was meant.
+void MainWindow::LetGo() {
+    Mouse->Cancel();
+    Keyboard->Release();
+}
+
 void MainWindow::ShowMessage(std::string_view text) {
-    lbl_Message->setText(QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size())));
-    const QString words = lbl_Message->text().trimmed();
+    const QString shown = QString::fromUtf8(text.data(), static_cast<qsizetype>(text.size()));
+    const QString words = shown.trimmed();
     lbl_Message->setAccessibleName("Status line: " + (words.isEmpty() ? "empty" : words));
+    lbl_Message->setText(shown);
     // It would be read out when the thinking is over.
     if (!words.isEmpty() && text != ThinkingText) Voice->Say(words);
 }
@@ -220,8 +232,7 @@ void MainWindow::ShowStepButton(QPushButton& button, bool visible) {
 
 void MainWindow::ShowBusy(bool busy) {
     if (busy) {
-        Mouse->Cancel();
-        Keyboard->LetGo();
+        LetGo();
         QApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QApplication::restoreOverrideCursor();

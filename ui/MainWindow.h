@@ -70,6 +70,7 @@ private:
     void BuildSidePanel();
     void BuildHiddenControls();
     void ConnectInput();
+    void LetGo();
     void ConnectGestures(const BoardInput& input);
     void ShowStepButton(QPushButton& button, bool visible);
     /// Runs the file dialog; closing it by its close box closes this window, too. False then.

@@ -3,10 +3,10 @@
 #include "engine/Strengths.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "ui/Command.h"
 #include "ui/Layout.h"
 #include "ui/MainWindow.h"
 
-#include <QApplication>
 #include <QMenuBar>
 
 #include <span>
@@ -45,10 +45,6 @@ QMenu* AddMenu(MainWindow& window, const char* name, const char* caption) {
 
 void AddSeparator(QMenu& menu, const char* name) { menu.addSeparator()->setObjectName(name); }
 
-/// Assistive technology can choose an item past the thinking computer and past a modal dialog. The
-/// dialog of another command could then not be left.
-bool MayCommand() { return !IsThinking && QApplication::activeModalWidget() == nullptr; }
-
 void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) {
     for (const MenuItem& item : items) {
         if (item.Command == nullptr) {
@@ -58,7 +54,7 @@ void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) 
         QAction* action = menu.addAction(item.Caption);
         action->setObjectName(item.Name);
         QObject::connect(action, &QAction::triggered, &window, [&window, command = item.Command] {
-            if (MayCommand()) command(window);
+            RunLater(&window, [&window, command] { command(window); });
         });
     }
 }

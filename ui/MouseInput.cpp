@@ -3,7 +3,6 @@
 #include "ui/BoardView.h"
 #include "ui/Outline.h"
 
-#include <QMouseEvent>
 #include <QPainter>
 
 namespace brastel {
@@ -31,11 +30,6 @@ protected:
         PaintOutline(painter, rect().marginsRemoved(QMargins() + OutlineMargin));
     }
 };
-
-/// The logical pixel that holds the pointer; rounding would push it over a square's edge.
-QPoint PixelOf(const QMouseEvent& event) {
-    return {qFloor(event.position().x()), qFloor(event.position().y())};
-}
 
 bool IsFormPoint(const QWidget& form, QPoint point) {
     return form.rect().contains(point) && form.childAt(point) == nullptr;

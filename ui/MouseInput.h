@@ -4,8 +4,6 @@
 
 #include <QWidget>
 
-class QMouseEvent;
-
 namespace brastel {
 
 /// Turns what the mouse does on the board view into gestures: every button drags a piece, with an
