@@ -49,6 +49,25 @@ TEST_F(BoardViewTest, LinesAreExact) {
     }
 }
 
+/// Where a logical pixel is no whole number of device pixels, the outline used to lose a part of
+/// its right and bottom edge.
+TEST_F(BoardViewTest, TheDraggedOutlineIsWhole) {
+    Open(3);
+    Press(Centre(68));
+    for (int n = 0; n < 4; ++n) {
+        const QPoint middle = QPoint(500, 680) + QPoint(n, n);
+        Move(middle);
+        const QImage picture = Picture();
+        const int width = qRound(picture.devicePixelRatio());
+        const std::pair<QPoint, QPoint> edges[] = {
+            {{-20, 0}, {1, 0}}, {{19, 0}, {1, 0}}, {{0, -20}, {0, 1}}, {{0, 19}, {0, 1}}};
+        for (const auto& [edge, step] : edges) {
+            EXPECT_EQ(BlackRun(picture, middle + edge, step), width) << edge.x() << " " << edge.y();
+        }
+    }
+    Release({500, 680});
+}
+
 TEST_F(BoardViewTest, CirclesTouchTheirSquaresFromInside) {
     const QImage picture = Picture();
     const int ratio = qRound(picture.devicePixelRatio());

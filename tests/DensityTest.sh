@@ -10,7 +10,17 @@ start_display 3000x2600
 
 window() { xdotool search --onlyvisible --name '^Brastel$' 2>/dev/null | head -n 1; }
 height() { xwininfo -id "$Window" | awk '/Height:/ {print $2}'; }
-look() { import -window "$Window" "$1-$Ratio.png"; }
+# Takes a picture when nothing changes any more.
+look() {
+    import -window "$Window" "$1-$Ratio.png"
+    wait_for "a picture that stays" stays "$1"
+}
+stays() {
+    mv "$1-$Ratio.png" "last-$Ratio.png"
+    sleep 0.1
+    import -window "$Window" "$1-$Ratio.png"
+    [ "$(differing last "$1")" = 0 ]
+}
 differing() { compare -metric AE "$1-$Ratio.png" "$2-$Ratio.png" null: 2>&1 || true; }
 
 # Points of the inner area, one a line in logical pixels, as commands of xdotool.

@@ -69,18 +69,11 @@ void PaintCircle(QPainter& painter, const QRect& rect) {
     painter.restore();
 }
 
-/// A frame of whole device pixels just inside the rectangle.
-void PaintFrame(QPainter& painter, const QRect& rect, int width, const QBrush& brush) {
-    const QRect inside = rect.adjusted(width, width, -width, -width);
-    for (const QRect& part : QRegion(rect) - inside) painter.fillRect(part, brush);
-}
-
 /// Around the square, so that it hides neither its bead nor its ring.
 void PaintFocus(QPainter& painter, int square) {
     const QRect outline(SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1);
-    const QRect frame = outline.adjusted(-2, -2, 2, 2);
-    PaintFrame(painter, frame, MarkWidth + 1, Qt::white);
-    PaintFrame(painter, frame, MarkWidth, MarkColor);
+    PaintOutline(painter, outline, MarkWidth, MarkColor);
+    PaintOutline(painter, outline.adjusted(2, 2, -2, -2), 1, Qt::white);
 }
 
 /// shp_Ring, above the pieces: nothing else shows who carries a ring.

@@ -2,7 +2,7 @@
 
 namespace brastel {
 
-void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width) {
+void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width, QColor color) {
     const QTransform& toDevice = painter.deviceTransform();
     const int thickness = qMax(1, qRound(width * painter.device()->devicePixelRatioF()));
     const QPoint half((thickness - 1) / 2, (thickness - 1) / 2);
@@ -10,14 +10,14 @@ void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width) {
     const QPoint end = toDevice.map(QPointF(to)).toPoint() - half;
     const QRectF device(begin,
                         QSizeF(end.x() - begin.x() + thickness, end.y() - begin.y() + thickness));
-    painter.fillRect(toDevice.inverted().mapRect(device), Qt::black);
+    painter.fillRect(toDevice.inverted().mapRect(device), color);
 }
 
-void PaintOutline(QPainter& painter, const QRect& rect) {
-    PaintSharpLine(painter, rect.topLeft(), rect.topRight(), 1);
-    PaintSharpLine(painter, rect.bottomLeft(), rect.bottomRight(), 1);
-    PaintSharpLine(painter, rect.topLeft(), rect.bottomLeft(), 1);
-    PaintSharpLine(painter, rect.topRight(), rect.bottomRight(), 1);
+void PaintOutline(QPainter& painter, const QRect& rect, int width, QColor color) {
+    PaintSharpLine(painter, rect.topLeft(), rect.topRight(), width, color);
+    PaintSharpLine(painter, rect.bottomLeft(), rect.bottomRight(), width, color);
+    PaintSharpLine(painter, rect.topLeft(), rect.bottomLeft(), width, color);
+    PaintSharpLine(painter, rect.topRight(), rect.bottomRight(), width, color);
 }
 
 }  // namespace brastel
