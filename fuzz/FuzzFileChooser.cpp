@@ -82,7 +82,7 @@ void RequireSoundDialog() {
     const auto isCurrent = [](const FolderRow& row) { return row.Path == Chooser.Folder; };
     Require(std::ranges::any_of(Chooser.Folders, isCurrent), "the current folder is not listed");
     Require(std::ranges::is_sorted(Chooser.Files), "the files are out of order");
-    Game.RequireSound();
+    RequireSound(Game);
 }
 
 /// Opens the dialog, or does one thing in it.

@@ -1,40 +1,16 @@
 #pragma once
 
-#include "core/Position.h"
 #include "files/FileView.h"
-#include "play/GameView.h"
+#include "tests/ShownGame.h"
 
 #include <string>
 
-/// A game without a window for the fuzz targets, and the checks that hold after everything a user
-/// can do.
+/// What the fuzz targets share: the start of a game without a window, its files, and the checks
+/// that hold after everything a user can do.
 namespace brastel {
 
-/// Keeps what a window would show. Its clock leaps, so that no pause takes time.
-class ShownGame : public GameView {
-public:
-    Position Shown;
-    std::string Message;
-    Int16 Turn = Empty;
-    bool Forward = false;
-    bool Backward = false;
-    bool Closing = false;
-    int BusyDepth = 0;
-    double Time = 0;
-
-    void PlacePieces() override { Shown = Pos; }
-    void ShowMessage(std::string_view text) override { Message = text; }
-    void ShowTurn(Int16 side) override { Turn = side; }
-    void ShowForward(bool visible) override { Forward = visible; }
-    void ShowBackward(bool visible) override { Backward = visible; }
-    void ShowBusy(bool busy) override { BusyDepth += busy ? 1 : -1; }
-    void HandleEvents() override { Time += 1; }
-    bool IsClosing() const override { return Closing; }
-    double Now() const override { return Time; }
-
-    /// The position is sound, and the window shows it and nothing else.
-    void RequireSound() const;
-};
+/// The position is sound, and the window shows it and nothing else.
+void RequireSound(const ShownGame& game);
 
 /// The windows around the game: always willing to overwrite, counting the boxes with an error.
 class ShownFiles : public FileView {

@@ -30,22 +30,10 @@ struct Arguments {
     int C;
 };
 
-void RunWhileThinking();
-
-/// While the computer thinks, it plays with a user who cannot wait, or closes the window.
-class BusyGame : public ShownGame {
-public:
-    bool ClosesNext = false;
-
-    void HandleEvents() override {
-        ShownGame::HandleEvents();
-        RunWhileThinking();
-        Closing = ClosesNext;
-    }
-};
-
-BusyGame Game;
+ShownGame Game;
 ShownFiles Files;
+/// The window is closed as soon as the next command lets the computer think.
+bool ClosesNext = false;
 
 /// A file, and what was last saved in it.
 struct SavedGame {
@@ -70,13 +58,6 @@ int PointOf(int number) { return number * 3 - 60; }
 int SquareOf(int number) { return FirstSquare + number % LastSquare; }
 
 // ---- Commands ----
-
-/// Drags what stands on a square to another square.
-void Drag(int from, int to) {
-    const Piece dragged = PieceOn(from);
-    if (const Piece target = PieceOn(to)) return DropOnPiece(dragged, target);
-    DropOnBoard(dragged, SquareLeft(to) + 1, SquareTop(to) + CellSize - 1);
-}
 
 /// Mostly accepted, so that games get somewhere.
 void DragCandidate(Arguments a) {
@@ -131,8 +112,7 @@ void Load(Arguments a) {
     }
 }
 
-/// The window is closed as soon as the next command lets the computer think.
-void CloseWhileThinking(Arguments /*a*/) { Game.ClosesNext = true; }
+void CloseWhileThinking(Arguments /*a*/) { ClosesNext = true; }
 
 using Command = void (*)(Arguments);
 
@@ -150,11 +130,13 @@ Command CommandOf(int number) {
     return n < GameCommands.size() ? GameCommands[n] : WindowCommands[n - GameCommands.size()];
 }
 
-/// Every command of the game, one after the other: none may do anything now.
-void RunWhileThinking() {
+/// A user who cannot wait gives every command of the game, none of which may do anything now, and
+/// may close the window.
+void ActWhileThinking() {
     const Snapshot before;
     for (const Command command : GameCommands) command({12, 13, 14});
     Require(before.IsStillTrue(), "the game went on while the computer thinks");
+    Game.Closing = ClosesNext;
 }
 
 /// The program ended with its window.
@@ -171,9 +153,9 @@ void RunOne(FuzzInput& input) {
     const int b = input.Byte();
     const int c = input.Byte();
     command({a, b, c});
-    if (command != CloseWhileThinking) Game.ClosesNext = false;
+    if (command != CloseWhileThinking) ClosesNext = false;
     if (Game.Closing) StartAgain();
-    Game.RequireSound();
+    RequireSound(Game);
     Require(Game.Message != ThinkingText, "the message stayed");
 }
 
@@ -183,7 +165,8 @@ void StartStream() {
         saved.File.Write("");
         saved.Count = -1;
     }
-    Game.Closing = Game.ClosesNext = false;
+    Game.Closing = ClosesNext = false;
+    Game.OnEvents = ActWhileThinking;
     Files.OpenMainWindow();
 }
 

@@ -52,7 +52,7 @@ void StepToTheEnd() {
     while (ForwardVisible) {
         const int before = Pos.MoveCount;
         StepForward();
-        Game.RequireSound();
+        RequireSound(Game);
         const bool hasStepped = Pos.MoveCount == before + 1;
         Require(hasStepped || !ForwardVisible, "forward is offered but does not step");
     }
@@ -62,7 +62,7 @@ void StepToTheStart(const Position& start) {
     while (Pos.MoveCount > 1) {
         const int before = Pos.MoveCount;
         StepBack();
-        Game.RequireSound();
+        RequireSound(Game);
         Require(Pos.MoveCount == before - 1, "back does not step");
     }
     Require(Pos == start, "stepping back does not lead to the start");
@@ -90,7 +90,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     StartProgram(Game, Files);
     Given.Write({reinterpret_cast<const char*>(data), size});
     const bool isLoaded = LoadFrom(Given, Files);
-    Game.RequireSound();
+    RequireSound(Game);
     if (!IsFirstOfItsKind(HashOfLoaded(isLoaded))) return 0;
     const Position start = Pos;
     StepToTheEnd();

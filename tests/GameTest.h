@@ -1,51 +1,15 @@
 #pragma once
 
-#include "play/GameRecord.h"
-#include "play/GameState.h"
-#include "play/GameView.h"
 #include "play/Hint.h"
-#include "play/HumanAction.h"
 #include "tests/RandomPlay.h"
+#include "tests/ShownGame.h"
 
 #include <gtest/gtest.h>
 
-#include <functional>
 #include <map>
 #include <sstream>
 
 namespace brastel {
-
-/// Remembers what a window would show.
-class RecordingView : public GameView {
-public:
-    std::string Message;
-    /// The position as last drawn.
-    Position Drawn;
-    int Drawings = 0;
-    int Beeps = 0;
-    int Searches = 0;
-    bool Closing = false;
-    /// What the user does while the computer thinks.
-    std::function<void()> OnEvents = [] {};
-    double Clock = 0;
-
-    void PlacePieces() override {
-        Drawn = Pos;
-        ++Drawings;
-    }
-    void ShowMessage(std::string_view text) override {
-        Message = text;
-        Searches += text == ThinkingText;
-    }
-    void Beep() override { ++Beeps; }
-    /// Time passes by events alone, so that no test waits.
-    void HandleEvents() override {
-        Clock += 0.02;
-        OnEvents();
-    }
-    double Now() const override { return Clock; }
-    bool IsClosing() const override { return Closing; }
-};
 
 /// A name, a position as Place takes it (empty for the standard game) and steps "commands => state"
 /// with semicolons between, as Do and State have them.
@@ -67,29 +31,14 @@ protected:
         SelectStartLayout(layout);
         NewGameCommand();
     }
-    /// Drags the piece on a square to another square, not to its middle.
-    static void Drop(int from, int to) {
-        if (const Piece target = PieceOn(to)) return DropOnPiece(PieceOn(from), target);
-        DropOnBoard(PieceOn(from), SquareLeft(to) + 7, SquareTop(to) + 33);
-    }
     static void DoubleClick(Int16 side, int index) { DoubleClickPiece({side, ToInt16(index)}); }
     static void Click(int square) { ClickBoard(SquareLeft(square) + 20, SquareTop(square) + 20); }
-
-    /// As when the game just played had been saved and loaded.
-    static void LoadPlayedGame() {
-        LoadedFrom = PlayedFrom;
-        LoadedTo = PlayedTo;
-        LoadedCount = ToInt16(Pos.MoveCount - 1);
-        TakeLoadedGame();
-        NewGameCommand();
-        ShowForward(true);
-    }
 
     /// 68-60 drags, +68 clicks, R3 double-clicks Red piece 3; entry200 leaps to that entry.
     static void Do(const std::string& command) {
         static const std::map<std::string, std::function<void()>> words{
             {"back", StepBack},      {"forward", StepForward},
-            {"hint", Hint},          {"load", LoadPlayedGame},
+            {"hint", Hint},          {"load", [] { LoadPlayedGame(), BeginLoadedGame(); }},
             {"new", NewGameCommand}, {"offer", [] { ShowForward(true); }}};
         static const std::map<std::string, std::function<void(int)>> numbers{
             {"+", Click},
@@ -103,7 +52,7 @@ protected:
         if (digit == std::string::npos) return words.at(command)();
         const int number = std::stoi(command.substr(digit));
         if (digit > 0) return numbers.at(command.substr(0, digit))(number);
-        Drop(number, std::stoi(command.substr(dash + 1)));
+        Drag(number, std::stoi(command.substr(dash + 1)));
     }
 
     /// Entries played, who is to move, the buttons shown and the message.
@@ -130,10 +79,10 @@ protected:
         std::istringstream commands(step.substr(0, arrow));
         for (std::string command; commands >> command;) Do(command);
         EXPECT_EQ(State(), step.substr(arrow + 4)) << "after " << step << "\n" << Listed();
-        EXPECT_TRUE(Window.Drawn.Board == Pos.Board && Window.Drawn.RingSquare == Pos.RingSquare);
+        EXPECT_EQ(Window.FirstWrong(), "");
     }
 
-    RecordingView Window;
+    ShownGame Window;
 };
 
 }  // namespace brastel

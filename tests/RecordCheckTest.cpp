@@ -150,7 +150,7 @@ protected:
             GenerateMoves(1);
             const Action action = BothRingsPlaced() ? DrawAction(Chances) : Action{};
             if (Below(Chances, 3) > 0 && action.first != NoSquare) {
-                Drop(action.first, action.second);
+                Drag(action.first, action.second);
             } else if (!PlayChosenMove(1)) {
                 return;
             }

@@ -5,6 +5,7 @@
 #include "play/DisplayedMove.h"
 #include "play/HumanAction.h"
 #include "tests/RandomPlay.h"
+#include "tests/ShownGame.h"
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/RuleComparison.h"
 #include "tools/soak/Snapshot.h"
@@ -63,12 +64,9 @@ void PlayInView(const Action& entry) {
 
 /// Where the rules differ, people's gesture is refused.
 void PlayByGesture(const Action& entry) {
-    const auto [from, to] = entry;
-    const Piece actor = PieceOn(from);
     Level = TwoPlayerLevel;
-    if (!BothRingsPlaced()) return DoubleClickPiece(actor);
-    if (const Piece target = PieceOn(to)) return DropOnPiece(actor, target);
-    DropOnBoard(actor, SquareLeft(to), SquareTop(to) + CellSize - 1);
+    if (!BothRingsPlaced()) return DoubleClickPiece(PieceOn(entry.first));
+    Drag(entry.first, entry.second);
 }
 
 /// `expected` is where the entry leads if people may play it.
@@ -187,13 +185,6 @@ void RequireConsistent() {
             Require(IsOnBoard(SquaresOf(side)[i]), "a piece was lost");
         }
     }
-}
-
-void LoadPlayedGame() {
-    LoadedFrom = PlayedFrom;
-    LoadedTo = PlayedTo;
-    LoadedCount = ToInt16(Pos.MoveCount - 1);
-    TakeLoadedGame();
 }
 
 void BeginLine(bool byHand) {

@@ -4,8 +4,8 @@
 
 #include <vector>
 
-/// The game being played, entry by entry. All operations but LoadPlayedGame leave the game itself
-/// as it is, and throw Inconsistency at the first fault.
+/// The game being played, entry by entry. All operations leave the game itself as it is, and throw
+/// Inconsistency at the first fault.
 namespace brastel {
 
 /// From the game's start on: Line[k] is the position after k entries.
@@ -26,9 +26,6 @@ void FollowLine(int first, bool byPerson);
 /// Goes one step back, which plays the record again from its start, and forward again as if the
 /// game had been saved and loaded.
 void CheckSteps();
-
-/// Makes the game just played the loaded one.
-void LoadPlayedGame();
 
 /// Besides what is always checked, no piece was lost.
 void RequireConsistent();

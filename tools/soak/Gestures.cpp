@@ -13,7 +13,6 @@
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/RuleComparison.h"
 #include "tools/soak/Snapshot.h"
-#include "tools/soak/SoakView.h"
 #include "tools/soak/Tally.h"
 
 namespace brastel {

@@ -1,13 +1,14 @@
 #pragma once
 
-#include "core/Position.h"
-
-#include <functional>
+#include "tests/ShownGame.h"
 
 /// What people do, with the checks of each: that it is accepted or refused as the rules have it,
 /// that a refusal changes nothing, and that an accepted action is announced rightly, answered by
 /// the computer in its turn, and follows the line. They throw Inconsistency at the first fault.
 namespace brastel {
+
+/// The view of every game.
+inline ShownGame Shown;
 
 /// The square under a point, NoSquare beside the board.
 int SquareUnder(int x, int y);

@@ -10,7 +10,6 @@
 #include "tools/soak/GameLine.h"
 #include "tools/soak/Gestures.h"
 #include "tools/soak/Inconsistency.h"
-#include "tools/soak/SoakView.h"
 #include "tools/soak/Tally.h"
 
 namespace brastel {
