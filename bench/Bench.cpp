@@ -3,16 +3,18 @@
 /// the computer plays the same, whatever the compiler, its options and the machine.
 
 #include "bench/BenchPositions.h"
+#include "core/Position.h"
 #include "engine/Search.h"
 #include "engine/Strengths.h"
+#include "tools/ReadNumber.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <charconv>
 #include <chrono>
 #include <cinttypes>
 #include <cstdio>
+#include <limits>
 #include <optional>
 #include <span>
 #include <string>
@@ -112,33 +114,26 @@ struct Options {
     std::optional<std::uint64_t> MostSearched;
 };
 
-template <typename Number>
-std::optional<Number> ReadNumber(std::string_view text, int base) {
-    Number number{};
-    const char* const end = text.data() + text.size();
-    const auto [stop, error] = std::from_chars(text.data(), end, number, base);
-    return error == std::errc{} && stop == end ? std::optional(number) : std::nullopt;
-}
+constexpr std::uint64_t Unlimited = std::numeric_limits<std::uint64_t>::max();
 
 bool ReadLevel(std::string_view text, Options& options) {
-    const Int16 level = ReadNumber<Int16>(text, 10).value_or(0);
-    if (level < 1 || level > MaxPly) return false;
-    options.Levels.push_back(level);
-    return true;
+    const auto level = ReadNumber<Int16>(text, 1, MaxPly);
+    if (level) options.Levels.push_back(*level);
+    return level.has_value();
 }
 
 bool ReadPieces(std::string_view text, Options& options) {
-    options.Positions = BenchPositionsWith(ReadNumber<int>(text, 10).value_or(0));
+    options.Positions = BenchPositionsWith(ReadNumber<int>(text, 1, MaxPieces).value_or(0));
     return !options.Positions.empty();
 }
 
 bool ReadExpected(std::string_view text, Options& options) {
-    options.Expected = ReadNumber<Signature>(text, 16);
+    options.Expected = ReadNumber<Signature>(text, 0, Unlimited, 16);
     return options.Expected.has_value();
 }
 
 bool ReadMostSearched(std::string_view text, Options& options) {
-    options.MostSearched = ReadNumber<std::uint64_t>(text, 10);
+    options.MostSearched = ReadNumber<std::uint64_t>(text, 0, Unlimited);
     return options.MostSearched.has_value();
 }
 

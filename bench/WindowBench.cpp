@@ -9,16 +9,15 @@
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/HumanAction.h"
+#include "tools/ReadNumber.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>
 #include <QElapsedTimer>
 #include <QTimer>
 
-#include <charconv>
 #include <cstdio>
 #include <random>
-#include <string_view>
 #include <vector>
 
 namespace {
@@ -104,11 +103,9 @@ int PlayGame(MainWindow& window, Int16 level) {
 std::vector<Int16> LevelsFrom(int count, char** texts) {
     std::vector<Int16> levels;
     for (int n = 1; n < count; ++n) {
-        const std::string_view text = texts[n];
-        Int16 level = 0;
-        const auto [end, error] = std::from_chars(text.begin(), text.end(), level);
-        if (error != std::errc() || end != text.end() || level < 1 || level > MaxPly) return {};
-        levels.push_back(level);
+        const auto level = ReadNumber<Int16>(texts[n], 1, MaxPly);
+        if (!level) return {};
+        levels.push_back(*level);
     }
     return levels;
 }

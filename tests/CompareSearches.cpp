@@ -1,7 +1,8 @@
 #include "tests/SearchComparison.h"
+#include "tools/ReadNumber.h"
 
-#include <charconv>
 #include <chrono>
+#include <climits>
 #include <iostream>
 #include <string_view>
 
@@ -14,26 +15,22 @@ constexpr std::string_view Usage =
     "LEVEL 1 to 11; with LAYOUT, 0 to 5, only positions from its games.\n";
 
 struct Arguments {
-    int Level = 0;
-    int Positions = 0;
-    int Seed = 1;
-    int Layout = PositionSource::AnyLayout;
+    int Level;
+    int Positions;
+    int Seed;
+    int Layout;
 };
 
-bool ReadNumber(std::string_view text, int& number) {
-    const auto [end, error] = std::from_chars(text.data(), text.data() + text.size(), number);
-    return error == std::errc() && end == text.data() + text.size();
-}
-
-bool Read(int count, char** texts, Arguments& arguments) {
-    const std::array numbers{&arguments.Level, &arguments.Positions, &arguments.Seed,
-                             &arguments.Layout};
-    if (count < 2 || count > std::ssize(numbers)) return false;
-    for (int i = 0; i < count; ++i) {
-        if (!ReadNumber(texts[i], *numbers[static_cast<std::size_t>(i)])) return false;
-    }
-    return arguments.Level >= 1 && arguments.Level <= MaxPly &&
-           arguments.Layout < FreeSetupLayout && arguments.Layout >= PositionSource::AnyLayout;
+std::optional<Arguments> Read(int count, char** texts) {
+    const auto number = [=](int n, const char* otherwise, int least, int most) {
+        return ReadNumber<int>(n < count ? texts[n] : otherwise, least, most);
+    };
+    const auto level = number(1, "", 1, MaxPly);
+    const auto positions = number(2, "", 0, INT_MAX);
+    const auto seed = number(3, "1", 0, INT_MAX);
+    const auto layout = number(4, "-1", PositionSource::AnyLayout, FreeSetupLayout - 1);
+    if (count > 5 || !level || !positions || !seed || !layout) return {};
+    return Arguments{*level, *positions, *seed, *layout};
 }
 
 /// Adds the seconds that an operation takes.
@@ -77,14 +74,15 @@ Totals Compare(const Arguments& arguments) {
 
 int main(int count, char** texts) {
     using namespace brastel;
-    Arguments arguments;
-    if (!Read(count - 1, texts + 1, arguments)) {
+    const auto arguments = Read(count, texts);
+    if (!arguments) {
         std::cerr << Usage;
         return 2;
     }
-    const Totals totals = Compare(arguments);
-    std::cout << arguments.Positions << " positions, " << totals.Differing << " differences, plain "
-              << totals.PlainSeconds << " s, engine " << totals.RealSeconds << " s, quotient "
-              << totals.PlainSeconds / totals.RealSeconds << '\n';
+    const Totals totals = Compare(*arguments);
+    std::cout << arguments->Positions << " positions, " << totals.Differing
+              << " differences, plain " << totals.PlainSeconds << " s, engine "
+              << totals.RealSeconds << " s, quotient " << totals.PlainSeconds / totals.RealSeconds
+              << '\n';
     return totals.Differing > 0 ? 1 : 0;
 }
