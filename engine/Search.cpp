@@ -16,8 +16,6 @@ std::uint64_t SearchedPositions = 0;
 
 namespace {
 
-constexpr int Root = SearchPly;
-
 struct RootCandidate {
     Candidate Which;
     /// Its entry in row 1.
@@ -32,8 +30,8 @@ using RootRow = std::span<RootCandidate>;
 /// so only the number of plies counts.
 void ValuePlacements(int depth) {
     double value = NoScore;
-    for (int ply = depth - 1; ply >= Root; --ply) value = NoScore / Discount - value;
-    for (int n = 1; n <= CandidateCount[Root]; ++n) MoveScores[Root][n] = value;
+    for (int ply = depth - 1; ply >= SearchPly; --ply) value = NoScore / Discount - value;
+    for (int n = 1; n <= CandidateCount[SearchPly]; ++n) MoveScores[SearchPly][n] = value;
 }
 
 /// Finds the highest value at the root, and leaves a candidate that has it in front.
@@ -43,8 +41,8 @@ int SearchRow(RootRow row) {
     auto winner = row.begin();
     for (auto candidate = row.begin(); candidate != row.end(); ++candidate) {
         candidate->Value = candidate == row.begin()
-                               ? ValueOf(Root, candidate->Which, -Unbounded, Unbounded, saved)
-                               : ValueOfLater(Root, candidate->Which, best, Unbounded, saved);
+                               ? ValueOf(SearchPly, candidate->Which, -Unbounded, Unbounded, saved)
+                               : ValueOfLater(SearchPly, candidate->Which, best, Unbounded, saved);
         if (candidate->Value > best) winner = candidate;
         best = std::max(best, candidate->Value);
     }
@@ -61,36 +59,36 @@ void ValueRow(RootRow row, int best) {
     const auto isBest = [&](const RootCandidate& candidate) {
         if (&candidate == row.data()) return true;
         return candidate.Value == best &&
-               ValueOf(Root, candidate.Which, best - 1, best, saved) == best;
+               ValueOf(SearchPly, candidate.Which, best - 1, best, saved) == best;
     };
     double highest = Lowest;
     for (const RootCandidate& candidate : row) {
-        double& value = MoveScores[Root][candidate.Entry];
+        double& value = MoveScores[SearchPly][candidate.Entry];
         value = static_cast<double>(best - candidate.Entry) / UnitsPerPoint;
         if (!isBest(candidate)) continue;
-        value = RoundedValueOf(Root, candidate.Which, best, Lowest, saved);
+        value = RoundedValueOf(SearchPly, candidate.Which, best, Lowest, saved);
         highest = std::max(highest, value);
     }
     if (highest >= NoScore) return;
     for (const RootCandidate& candidate : row) {
-        MoveScores[Root][candidate.Entry] = HopelessValueOf(candidate.Which, saved);
+        MoveScores[SearchPly][candidate.Entry] = HopelessValueOf(candidate.Which, saved);
     }
 }
 
 void SearchRoot(Int16 depth) {
-    SortCandidates(Root);
-    const int count = std::min<int>(CandidateCount[Root], BeamWidth);
-    CandidateCount[Root] = ToInt16(count);
+    SortCandidates(SearchPly);
+    const int count = std::min<int>(CandidateCount[SearchPly], BeamWidth);
+    CandidateCount[SearchPly] = ToInt16(count);
     // A winning candidate is sorted first, and all keep their immediate values.
-    if (count == 0 || IsWin(MoveScores[Root][1])) return;
+    if (count == 0 || IsWin(MoveScores[SearchPly][1])) return;
     if (!BothRingsPlaced()) return ValuePlacements(depth);
     std::array<RootCandidate, BeamWidth> candidates;
     for (int n = 1; n <= count; ++n) {
-        const MoveCode code = MoveList[Root][n];
+        const MoveCode code = MoveList[SearchPly][n];
         candidates[static_cast<std::size_t>(n - 1)] = {
             {static_cast<std::uint8_t>(OriginOf(code)),
              static_cast<std::uint8_t>(DestinationOf(code)),
-             static_cast<Int16>(MoveScores[Root][n])},
+             static_cast<Int16>(MoveScores[SearchPly][n])},
             n,
             0};
     }
@@ -110,8 +108,8 @@ void SearchRoot(Int16 depth) {
 Int16 SelectFromRoot() {
     double best = -10000000.0;
     int chosen = 0;
-    for (int n = 1; n <= CandidateCount[Root]; ++n) {
-        const double value = MoveScores[Root][n];
+    for (int n = 1; n <= CandidateCount[SearchPly]; ++n) {
+        const double value = MoveScores[SearchPly][n];
         if (value < best) continue;
         const bool isBetter = value > best;
         best = value;
@@ -125,7 +123,7 @@ Int16 SelectFromRoot() {
 
 Int16 ChooseCandidate(Int16 depth) {
     SearchedPositions = 1;
-    GenerateMoves(Root);
+    GenerateMoves(SearchPly);
     if (depth > 1) SearchRoot(depth);
     return SelectFromRoot();
 }
