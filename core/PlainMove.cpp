@@ -19,12 +19,17 @@ bool IsSlide(int from, int to) {
 
 bool IsStep(int from, int to) {
     const PathGuards guards = GuardsOf(Column(to) - Column(from), Row(to) - Row(from));
-    if (guards.Count < 0) return false;
-    return std::all_of(guards.Offset.begin(), guards.Offset.begin() + guards.Count,
-                       [from](int offset) { return Pos.Board[from + offset] == Empty; });
+    return guards.Count >= 0 && AreEmpty(guards, from);
 }
 
 }  // namespace
+
+bool AreEmpty(const PathGuards& guards, int square) {
+    for (int i = 0; i < guards.Count; ++i) {
+        if (Pos.Board[square + guards.Offset[static_cast<std::size_t>(i)]] != Empty) return false;
+    }
+    return true;
+}
 
 bool CheckPlainMove(int from, int to) {
     if (!BothRingsPlaced() || !InField(from) || !InField(to)) return false;

@@ -26,6 +26,9 @@ constexpr PathGuards GuardsOf(int columns, int rows) {
     return {2, {across == 2 ? acrossSign * Right : downSign * Down, diagonal}};
 }
 
+/// True if nothing stands on the guards of a move from a field square, or if it has none.
+bool AreEmpty(const PathGuards& guards, int square);
+
 /// True if the piece on `from` may move to `to`: both rings placed, a piece of the side to move
 /// inside the field, an empty field square one or two steps away with nothing jumped over, or a
 /// slide along the column that stops next to a friendly piece. Any numbers may be passed; what is

@@ -101,20 +101,13 @@ constexpr std::array<Place, 23> CarrierPlaces{{
 
 // ---- Which of the places are candidates ----
 
-bool AreGuardsEmpty(int square, const PathGuards& guards) {
-    for (int i = 0; i < guards.Count; ++i) {
-        if (Pos.Board[square + guards.Offset[static_cast<std::size_t>(i)]] != Empty) return false;
-    }
-    return true;
-}
-
 bool IsHitOnLastHitter(Int16 piece, int target) {
     return Pos.LastHit[1] == piece && Pos.LastHit[0] == FindAt(-Pos.SideToMove, target);
 }
 
 bool IsHit(Int16 piece, int square, const Place& place) {
     const int target = square + place.Offset;
-    if (Pos.Board[target] != -Pos.SideToMove || !AreGuardsEmpty(square, place.Guards)) return false;
+    if (Pos.Board[target] != -Pos.SideToMove || !AreEmpty(place.Guards, square)) return false;
     const bool fromTwoAway = place.Guards.Count > 0;
     if (fromTwoAway && IsRingSquare(target)) return false;
     return Pos.Board[square + place.Behind] == Empty && !IsHitOnLastHitter(piece, target);
@@ -148,7 +141,7 @@ int TargetOf(Int16 piece, int square, const Place& place) {
     bool accepted = false;
     switch (place.What) {
         case Kind::Move:
-            accepted = cell == Empty && AreGuardsEmpty(square, place.Guards);
+            accepted = cell == Empty && AreEmpty(place.Guards, square);
             break;
         case Kind::Pass:
             accepted = cell == Pos.SideToMove && !IsRingSquare(target);

@@ -65,13 +65,9 @@ bool GoesOut(const Entry& entry) { return !InField(entry.To); }
 bool IsOutside(const Entry& entry) { return !InField(entry.From); }
 
 bool IsWayBlocked(const Entry& entry) {
-    const PathGuards guards =
-        GuardsOf(Column(entry.To) - Column(entry.From), Row(entry.To) - Row(entry.From));
-    for (int i = 0; i < guards.Count; ++i) {
-        const int offset = guards.Offset[static_cast<std::size_t>(i)];
-        if (Pos.Board[entry.From + offset] != Empty) return true;
-    }
-    return false;
+    return !AreEmpty(
+        GuardsOf(Column(entry.To) - Column(entry.From), Row(entry.To) - Row(entry.From)),
+        entry.From);
 }
 
 bool IsColumnBlocked(const Entry& entry) {

@@ -30,10 +30,7 @@ bool IsLongStep(const Action& action) {
     const int rows = Row(to) - Row(from);
     if (columns == 0 && Pos.Board[to + (rows > 0 ? Down : Up)] == Pos.SideToMove) return false;
     const PathGuards guards = GuardsOf(columns, rows);
-    for (int i = 0; i < guards.Count; ++i) {
-        if (Pos.Board[from + guards.Offset[static_cast<std::size_t>(i)]] != Empty) return false;
-    }
-    return guards.Count > 0;
+    return guards.Count > 0 && AreEmpty(guards, from);
 }
 
 bool IsPassFromOutside(const Action& action) {
