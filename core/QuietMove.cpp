@@ -27,6 +27,14 @@ bool ActionFits(int origin, int destination) {
     return Pos.Board[destination] != -Pos.SideToMove || CanPush(origin, destination);
 }
 
+bool IsAccepted(int origin, int destination) {
+    const Piece other = PieceOn(destination);
+    if (!other) return CheckPlainMove(origin, destination);
+    const Piece actor = PieceOn(origin);
+    if (other.Side == Pos.SideToMove) return CheckRingPass(actor, other);
+    return CheckHit(actor, other) == HitVerdict::Accepted;
+}
+
 void ApplyAction(int origin, int destination) {
     if (!BothRingsPlaced()) return LayRing(origin);
     const Piece actor = PieceOn(origin);

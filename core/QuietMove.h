@@ -2,7 +2,8 @@
 
 #include "core/Position.h"
 
-/// Applying an action to the position alone: no view, no record, no win test.
+/// Any action: whether it is allowed, and what it makes of the position alone, without view, record
+/// and win test.
 ///
 /// An action is a pair of squares. What it means follows from the position: at MoveCount 1 and 2
 /// the ring of Red or Blue goes to the origin and the destination is not read; afterwards an empty
@@ -13,6 +14,10 @@ namespace brastel {
 /// the null move, or a piece of the side to move acting on a board square, a hit with somewhere to
 /// push to. No rule beyond that is tested. Any numbers may be asked for.
 bool ActionFits(int origin, int destination);
+
+/// True if people may take the action once both rings are placed: a plain move, a ring pass or a
+/// hit that its own check accepts. Any numbers may be asked for.
+bool IsAccepted(int origin, int destination);
 
 /// The changes of an action up to, but without, returns from outside and the turn. An origin
 /// without a piece, (0, 0) among them, changes nothing. Precondition: ActionFits.

@@ -1,9 +1,5 @@
 #include "tests/Positions.h"
 
-#include "core/Hit.h"
-#include "core/PlainMove.h"
-#include "core/RingPass.h"
-
 #include <cctype>
 #include <sstream>
 
@@ -34,14 +30,6 @@ std::string Listed() {
         list << (list.tellp() > 0 ? " " : "") << letters[IsRingSquare(s)] << s;
     }
     return list.str();
-}
-
-bool IsAccepted(int from, int to) {
-    const Piece other = PieceOn(to);
-    if (!other) return CheckPlainMove(from, to);
-    const Piece actor = PieceOn(from);
-    if (other.Side == Pos.SideToMove) return CheckRingPass(actor, other);
-    return CheckHit(actor, other) == HitVerdict::Accepted;
 }
 
 namespace {

@@ -15,9 +15,6 @@ void Place(std::string_view pieces);
 /// The pieces of the position in board order, written like the list above.
 std::string Listed();
 
-/// True if the rules of people accept the piece on `from` acting on `to`: a move, a pass or a hit.
-bool IsAccepted(int from, int to);
-
 /// A square, and the position, upside down with the colours exchanged, or in a mirror.
 int UpsideDown(int square);
 Position UpsideDown(const Position& position);

@@ -4,7 +4,6 @@
 #include "core/Opening.h"
 #include "core/PlainMove.h"
 #include "core/QuietMove.h"
-#include "core/RingPass.h"
 #include "core/StartPosition.h"
 #include "core/WinTest.h"
 #include "engine/Candidates.h"
@@ -34,14 +33,6 @@ bool IsCandidate(const Entry& entry) {
         if (!BothRingsPlaced() || DestinationOf(MoveList[1][n]) == entry.To) return true;
     }
     return false;
-}
-
-bool PeopleMay(const Entry& entry) {
-    const Piece actor = PieceOn(entry.From);
-    const Piece other = PieceOn(entry.To);
-    if (!other) return CheckPlainMove(entry.From, entry.To);
-    if (other.Side == Pos.SideToMove) return CheckRingPass(actor, other);
-    return CheckHit(actor, other) == HitVerdict::Accepted;
 }
 
 bool MayPass() {
@@ -163,7 +154,7 @@ std::string_view BrokenRule(int from, int to) {
     if (!BothRingsPlaced()) return BrokenPlacementRule(entry);
     if (from == NoSquare && to == NoSquare)
         return MayPass() ? "" : "a side that can move may not pass";
-    if (PeopleMay(entry)) return {};
+    if (IsAccepted(from, to)) return {};
     const bool isCandidate = IsCandidate(entry);
     if (isCandidate && ActionFits(from, to)) return {};
     if (isCandidate) return "an opponent waits in the goal";
