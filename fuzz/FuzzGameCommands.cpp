@@ -11,7 +11,7 @@
 #include "play/GameState.h"
 #include "play/Hint.h"
 #include "play/HumanAction.h"
-#include "tools/soak/Snapshot.h"
+#include "tests/Snapshot.h"
 
 #include <algorithm>
 #include <array>

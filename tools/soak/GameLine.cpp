@@ -6,9 +6,9 @@
 #include "play/HumanAction.h"
 #include "tests/RandomPlay.h"
 #include "tests/ShownGame.h"
+#include "tests/Snapshot.h"
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/RuleComparison.h"
-#include "tools/soak/Snapshot.h"
 #include "tools/soak/Tally.h"
 
 namespace brastel {

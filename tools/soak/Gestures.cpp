@@ -8,11 +8,11 @@
 #include "engine/Random.h"
 #include "play/Hint.h"
 #include "play/HumanAction.h"
+#include "tests/Snapshot.h"
 #include "tools/Chance.h"
 #include "tools/soak/GameLine.h"
 #include "tools/soak/Inconsistency.h"
 #include "tools/soak/RuleComparison.h"
-#include "tools/soak/Snapshot.h"
 #include "tools/soak/Tally.h"
 
 namespace brastel {

@@ -4,8 +4,8 @@
 #include "core/PlainMove.h"
 #include "core/WinTest.h"
 #include "tests/RandomPlay.h"
+#include "tests/Snapshot.h"
 #include "tools/soak/Inconsistency.h"
-#include "tools/soak/Snapshot.h"
 #include "tools/soak/Tally.h"
 
 #include <bitset>
