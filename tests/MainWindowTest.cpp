@@ -47,50 +47,17 @@ TEST_F(MainWindowTest, ThePieceNumberDialogChangesTheLayout) {
     }
 }
 
-TEST_F(MainWindowTest, TheLevelMenuChecksOneItem) {
-    const std::pair<const char*, int> Items[] = {
-        {"mnu_TwoPlayer", 0}, {"mnu_Medium", 2}, {"mnu_God", 11}, {"mnu_Angel", 10}};
-    for (const auto& [item, level] : Items) {
-        ChooseFromMenu("mnu_Level", item);
-        EXPECT_EQ(Level, level);
-        int checked = 0;
-        for (const QAction* action : Control<QMenu>("mnu_Level")->actions()) {
-            checked += action->isChecked();
-        }
-        EXPECT_EQ(checked, 1);
-        EXPECT_TRUE(IsItemChecked(item));
-    }
-}
-
-TEST_F(MainWindowTest, TheComputerAnswersAndTheGameIsSteppedBack) {
+TEST_F(MainWindowTest, TheComputerAnswersAndButtonsAct) {
     Open(3);
     DoubleClick(69);
     EXPECT_EQ(Pos.MoveCount, 3) << "Blue places its ring at once";
-    EXPECT_TRUE(IsShown("btn_Backward"));
     Drag(67, 59);
     EXPECT_EQ(Pos.MoveCount, 5);
-    ExpectViewShowsPosition();
     ClickButton("btn_Backward");
     EXPECT_EQ(Pos.SideToMove, Blue);
     ClickButton("btn_Hint");
     EXPECT_EQ(Pos.MoveCount, 5) << "the hint plays for Blue, and Red is no computer";
-    for (int n = 0; n < 4; ++n) ClickButton("btn_Backward");
-    EXPECT_EQ(Pos.MoveCount, 1);
-    EXPECT_FALSE(IsShown("btn_Backward"));
     ExpectViewShowsPosition();
-}
-
-TEST_F(MainWindowTest, PushingBackIsRefusedWithAMessage) {
-    OpenForTwo(0, 68, 44);
-    Drag(69, 61);
-    Drag(45, 53);
-    Drag(61, 53);
-    const Position position = Pos;
-    ASSERT_EQ(Pos.Board[53], Red);
-    ASSERT_EQ(Pos.Board[37], Blue);
-    Drag(37, 53);
-    EXPECT_EQ(Pos, position);
-    EXPECT_EQ(Message(), "You Cant't Push Back");
 }
 
 /// The keyboard went on to the Hint button when Backward disappeared, and the next press of the

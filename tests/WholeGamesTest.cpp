@@ -60,6 +60,7 @@ protected:
                               ? "mnu_TwoPlayer"
                               : Strengths[static_cast<std::size_t>(level - 1)].Item;
         ChooseFromMenu("mnu_Level", item.data());
+        ASSERT_EQ(Level, level);
         SeedRandom(7);
         if (layout == FreeSetupLayout) return SetUpByHand();
         DoubleClick(Pos.RedSquare[1]);
