@@ -43,9 +43,8 @@ void List(Shortlist& list, Candidate candidate, int place) {
 }
 
 Candidate CommonCandidate(const PieceSurvey& piece, int bit) {
-    return {static_cast<std::uint8_t>(piece.Square),
-            static_cast<std::uint8_t>(piece.Square + bit - WindowReach),
-            ToInt16(piece.Common + NumberAt(piece.Values, bit))};
+    return CandidateOf(piece.Square, piece.Square + bit - WindowReach,
+                       piece.Common + NumberAt(piece.Values, bit));
 }
 
 void ListPiece(Shortlist& list, const Survey& survey, const PieceSurvey& piece) {
@@ -73,10 +72,8 @@ void ListPiece(Shortlist& list, const Survey& survey, const PieceSurvey& piece) 
 void ListPieces(Shortlist& list, Survey& survey) {
     const SquareSet places = PlacesWorth(survey, list.Threshold);
     for (std::size_t n = 0; n < survey.PieceTotal; ++n) {
-        const bool isSurveyed = (survey.Surveyed >> n & 1) != 0;
-        if (!isSurveyed && list.NextPlace >= list.ExactPlaces && !MayReach(survey, n, places)) {
-            continue;
-        }
+        const bool mayList = IsSurveyed(survey, n) || MayReach(survey, n, places);
+        if (!mayList && list.NextPlace >= list.ExactPlaces) continue;
         SurveyPiece(survey, n);
         ListPiece(list, survey, survey.Pieces[n]);
     }
@@ -122,7 +119,7 @@ int LikelyDepth(const Survey& survey, int width) {
 
 Candidate FirstOfBest(const Survey& survey) {
     std::size_t n = 0;
-    while ((survey.Surveyed >> n & 1) == 0 || survey.Pieces[n].Best != survey.Best) ++n;
+    while (!IsSurveyed(survey, n) || survey.Pieces[n].Best != survey.Best) ++n;
     Shortlist list(survey.Best, 0);
     ListPiece(list, survey, survey.Pieces[n]);
     return list.Entries[0].Which;

@@ -85,12 +85,9 @@ void SearchRoot(Int16 depth) {
     std::array<RootCandidate, BeamWidth> candidates;
     for (int n = 1; n <= count; ++n) {
         const MoveCode code = MoveList[SearchPly][n];
+        const int value = static_cast<int>(MoveScores[SearchPly][n]);
         candidates[static_cast<std::size_t>(n - 1)] = {
-            {static_cast<std::uint8_t>(OriginOf(code)),
-             static_cast<std::uint8_t>(DestinationOf(code)),
-             static_cast<Int16>(MoveScores[SearchPly][n])},
-            n,
-            0};
+            CandidateOf(OriginOf(code), DestinationOf(code), value), n, 0};
     }
     const RootRow row(candidates.data(), static_cast<std::size_t>(count));
     ForgetPositions();

@@ -13,8 +13,7 @@ constexpr SquareSet JudgedArrivals = SquaresWhere(
 // ---- Entries ----
 
 void AddValued(Survey& survey, PieceSurvey& piece, int destination, int value) {
-    survey.Valued[survey.ValuedTotal++] = {static_cast<std::uint8_t>(piece.Square),
-                                           static_cast<std::uint8_t>(destination), ToInt16(value)};
+    survey.Valued[survey.ValuedTotal++] = CandidateOf(piece.Square, destination, value);
     piece.Best = std::max(piece.Best, value);
 }
 
@@ -144,7 +143,7 @@ void BeginSurvey(Survey& survey) {
 }
 
 void SurveyPiece(Survey& survey, std::size_t n) {
-    if ((survey.Surveyed >> n & 1) != 0) return;
+    if (IsSurveyed(survey, n)) return;
     survey.Surveyed |= 1U << n;
     const Int16 index = static_cast<Int16>(n + 1);
     PieceSurvey& piece = survey.Pieces[n];

@@ -15,6 +15,12 @@ struct Candidate {
     bool operator==(const Candidate&) const = default;
 };
 
+/// A candidate from plain numbers.
+inline Candidate CandidateOf(int origin, int destination, int value) {
+    return {static_cast<std::uint8_t>(origin), static_cast<std::uint8_t>(destination),
+            ToInt16(value)};
+}
+
 /// NoScore as a whole number.
 constexpr int NoValue = -100000;
 
@@ -55,6 +61,10 @@ struct Survey {
     /// The highest value among the surveyed pieces, NoValue without a candidate.
     int Best;
 };
+
+inline bool IsSurveyed(const Survey& survey, std::size_t n) {
+    return (survey.Surveyed >> n & 1) != 0;
+}
 
 /// Begins the survey of the position for the side to move, both rings being placed.
 void BeginSurvey(Survey& survey);

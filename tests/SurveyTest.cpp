@@ -13,9 +13,8 @@ std::vector<Candidate> SortedRow() {
     std::vector<Candidate> row;
     for (int n = 1; n <= CandidateCount[1]; ++n) {
         const MoveCode code = MoveList[1][n];
-        row.push_back({static_cast<std::uint8_t>(OriginOf(code)),
-                       static_cast<std::uint8_t>(DestinationOf(code)),
-                       static_cast<Int16>(MoveScores[1][n])});
+        row.push_back(
+            CandidateOf(OriginOf(code), DestinationOf(code), static_cast<int>(MoveScores[1][n])));
     }
     return row;
 }
