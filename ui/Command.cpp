@@ -3,6 +3,7 @@
 #include "play/GameState.h"
 
 #include <QApplication>
+#include <QTimer>
 
 namespace brastel {
 
@@ -14,10 +15,13 @@ bool MayCommand() { return !IsThinking && QApplication::activeModalWidget() == n
 
 void RunLater(QObject* context, const std::function<void()>& command) {
     if (!MayCommand()) return;
-    const auto run = [command] {
+    auto* timer = new QTimer(context);
+    timer->setSingleShot(true);
+    timer->callOnTimeout(context, [timer, command] {
+        timer->deleteLater();
         if (MayCommand()) command();
-    };
-    QMetaObject::invokeMethod(context, run, Qt::QueuedConnection);
+    });
+    timer->start(0);
 }
 
 }  // namespace brastel

@@ -53,6 +53,8 @@ QString PieceName(int square) { return QString::fromStdString(PieceInWords(Piece
 KeyboardInput::KeyboardInput(BoardView* view, MouseInput* mouse)
     : BoardInput(view), Form(view), Mouse(mouse) {
     Form->installEventFilter(this);
+    FocusTimer.setSingleShot(true);
+    FocusTimer.callOnTimeout(this, &KeyboardInput::TellFocus);
 }
 
 bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -66,7 +68,8 @@ bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
         case QEvent::FocusIn:
             if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) Marks.IsShown = true;
             ShowMarks();
-            TellFocusLater();
+            // After the toolkit has told that the view as a whole has the focus.
+            FocusTimer.start(0);
             return false;
         case QEvent::FocusOut:
         case QEvent::WindowDeactivate:
@@ -101,12 +104,8 @@ void KeyboardInput::FollowMouse(QPoint point) {
     ShowMarks();
 }
 
-/// After the toolkit has told that the view as a whole has the focus.
-void KeyboardInput::TellFocusLater() {
-    const auto tell = [this] {
-        if (Form->hasFocus()) emit FocusMoved(Marks.Focus);
-    };
-    QMetaObject::invokeMethod(this, tell, Qt::QueuedConnection);
+void KeyboardInput::TellFocus() {
+    if (Form->hasFocus()) emit FocusMoved(Marks.Focus);
 }
 
 void KeyboardInput::ShowMarks() { Form->ShowMarks(Marks); }
@@ -120,7 +119,7 @@ void KeyboardInput::FocusOn(int square) {
     if (IsThinking || !IsOnBoard(square)) return;
     Marks.Focus = square;
     ShowMarks();
-    if (Form->hasFocus()) emit FocusMoved(square);
+    TellFocus();
 }
 
 void KeyboardInput::Try(const std::function<void()>& gesture, const QString& failure) {

@@ -3,6 +3,8 @@
 #include "ui/BoardInput.h"
 #include "ui/BoardView.h"
 
+#include <QTimer>
+
 #include <functional>
 
 class QKeyEvent;
@@ -49,7 +51,7 @@ protected:
 private:
     bool Handle(const QKeyEvent& event);
     void FollowMouse(QPoint point);
-    void TellFocusLater();
+    void TellFocus();
     void ShowMarks();
     void PickUp();
     void DropHere();
@@ -60,6 +62,7 @@ private:
     BoardView* const Form;
     MouseInput* const Mouse;
     KeyboardMarks Marks;
+    QTimer FocusTimer;
 };
 
 }  // namespace brastel
