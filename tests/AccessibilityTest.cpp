@@ -174,6 +174,22 @@ TEST_F(AccessibilityTest, TheComputersAnswerIsReadOut) {
     EXPECT_TRUE(text.starts_with(own)) << text;
 }
 
+/// Hidden text boxes used to tell of each of their texts, hundreds after a move, and Orca, which
+/// drops what comes when a hundred events wait, read out nothing.
+TEST_F(AccessibilityTest, AMoveIsToldInFewEvents) {
+    constexpr qsizetype Few = 50;
+    Open(3);
+    Forget();
+    DoubleClick(69);
+    ReadOut();
+    for (const int from : {67, 66}) {
+        Drag(from, from - 8);
+        QTest::qWait(60);
+        EXPECT_LT(QTestAccessibility::events().size(), Few);
+        QTestAccessibility::clearEvents();
+    }
+}
+
 TEST_F(AccessibilityTest, ChangedSquaresAreTold) {
     OpenForTwo(3, 68, 44);
     Forget();

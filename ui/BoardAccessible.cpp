@@ -123,7 +123,7 @@ class TurnPart final : public BoardPart {
 public:
     TurnPart(BoardView* view, Int16 side) : BoardPart(view), Side(side) {}
 
-    QAccessible::Role role() const override { return QAccessible::Indicator; }
+    QAccessible::Role role() const override { return QAccessible::StaticText; }
     QAccessible::State state() const override { return {}; }
 
 protected:

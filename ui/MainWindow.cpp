@@ -67,9 +67,9 @@ QPushButton* NewButton(QWidget* parent, const QString& name, const QString& capt
 }
 
 template <std::size_t Count>
-void FillHidden(std::array<QLineEdit*, Count>& boxes, QWidget* parent, const QString& name) {
+void FillHidden(std::array<QWidget*, Count>& boxes, QWidget* parent, const QString& name) {
     for (std::size_t i = 0; i < Count; ++i) {
-        boxes[i] = new QLineEdit(parent);
+        boxes[i] = new QWidget(parent);
         boxes[i]->setObjectName(name + QString::number(i));
         boxes[i]->setEnabled(false);
     }
@@ -246,11 +246,14 @@ void MainWindow::HandleEvents() {
 
 void MainWindow::ShowBoardTexts() {
     for (int square = FirstSquare; square <= LastSquare; ++square) {
-        Text1[static_cast<std::size_t>(square)]->setText(QString::number(Pos.Board[square]));
+        Text1[static_cast<std::size_t>(square)]->setProperty("text",
+                                                             QString::number(Pos.Board[square]));
     }
 }
 
-void MainWindow::ShowCandidateCount(Int16 count) { Text2[0]->setText(QString::number(count)); }
+void MainWindow::ShowCandidateCount(Int16 count) {
+    Text2[0]->setProperty("text", QString::number(count));
+}
 
 void MainWindow::CloseMainWindow() { hide(); }
 

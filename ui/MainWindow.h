@@ -6,7 +6,6 @@
 
 #include <QActionGroup>
 #include <QLabel>
-#include <QLineEdit>
 #include <QMainWindow>
 #include <QPushButton>
 
@@ -87,9 +86,11 @@ private:
     QPushButton* btn_Backward = nullptr;
     QPushButton* btn_Hint = nullptr;
     QLabel* lbl_Message = nullptr;
-    /// Text boxes never seen: they mirror the cells and the candidate count.
-    std::array<QLineEdit*, 113> Text1{};
-    std::array<QLineEdit*, 33> Text2{};
+    /// Text boxes never seen: they mirror the cells and the candidate count, each in its property
+    /// "text". Real line edits would tell assistive technology of every text, seen or not, and
+    /// screen readers stop listening in such a flood.
+    std::array<QWidget*, 113> Text1{};
+    std::array<QWidget*, 33> Text2{};
 };
 
 }  // namespace brastel

@@ -10,6 +10,7 @@
 #include "tools/monkey/ScratchFolder.h"
 
 #include <QApplication>
+#include <QLineEdit>
 #include <QListWidget>
 #include <QMenuBar>
 
