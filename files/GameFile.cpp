@@ -55,7 +55,7 @@ bool MayWrite(const std::string& path) {
 // ---- Reading: each value goes straight to its place, so that those before an error stay ----
 
 GameReading Failure(FileError error, std::string_view cause, std::int64_t line) {
-    return {error, cause, line, {}};
+    return {error, cause, line, 0, {}};
 }
 
 /// What the reader itself met with; without an error if all is well.
@@ -144,6 +144,7 @@ GameReading ReadGameFile(const std::string& path) {
     const bool isOpen = file.Error() == FileError::None;
     GameReading reading = ReadGame(file);
     if (!isOpen) reading.Line = 0;
+    reading.SystemError = file.SystemError();
     TakeLoadedGame();
     return reading;
 }

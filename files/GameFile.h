@@ -26,6 +26,8 @@ struct GameReading {
     /// Where in the file it is wrong, from 1; for a count too large that of the count. 0 when the
     /// file could not be opened.
     std::int64_t Line = 0;
+    /// What the system calls the failure (errno), or 0 if the failure is none of its own.
+    int SystemError = 0;
     /// The lines on which the entries read begin.
     Table<std::int64_t, 0, MaxEntries> EntryLine;
 };

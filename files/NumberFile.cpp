@@ -22,13 +22,15 @@ bool IsSeparator(int byte) {
 /// Pipes without a writer, or a device, must not hold the program up.
 constexpr int NeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
 
-/// Sorts a path that cannot be opened: a missing file in a missing folder is a missing path.
+/// Sorts a path that cannot be opened: a missing file in a missing folder is a missing path. Leaves
+/// errno as it was.
 FileError OpenFailure(const std::string& path, int systemError) {
     if (systemError != ENOENT) return FileErrorFromSystem(systemError);
     const std::size_t slash = path.rfind('/');
     if (slash == std::string::npos || slash == 0) return FileError::FileNotFound;
     struct stat folder {};
     const bool hasFolder = stat(path.substr(0, slash).c_str(), &folder) == 0;
+    errno = systemError;
     return hasFolder ? FileError::FileNotFound : FileError::PathNotAccessible;
 }
 
@@ -67,7 +69,7 @@ NumberReader::NumberReader(const std::string& path) {
     }
     File = open(path.c_str(), O_RDONLY | NeverWait);
     if (File < 0) {
-        Failure = OpenFailure(path, errno);
+        FailBy(errno, OpenFailure(path, errno));
     } else if (!IsOrdinaryFile(File)) {
         Failure = FileError::NotAFile;
     }
@@ -83,7 +85,7 @@ int NumberReader::Peek() {
         do {
             count = read(File, Buffer.data(), Buffer.size());
         } while (count < 0 && errno == EINTR);
-        if (count < 0) Fail(FileErrorFromSystem(errno));
+        if (count < 0) FailBy(errno, FileErrorFromSystem(errno));
         if (count <= 0) return EndOfData;
         Used = 0;
         Filled = static_cast<std::size_t>(count);
@@ -94,6 +96,11 @@ int NumberReader::Peek() {
 bool NumberReader::Fail(FileError error) {
     if (Failure == FileError::None) Failure = error;
     return false;
+}
+
+void NumberReader::FailBy(int systemError, FileError error) {
+    SystemFailure = systemError;
+    Fail(error);
 }
 
 /// A line feed right behind a carriage return belongs to it.
@@ -141,6 +148,7 @@ std::string NumberText(Int16 value) {
 
 FileError WriteTextFile(const std::string& path, const std::string& text) {
     constexpr int Permissions = 0666;
+    errno = 0;
     const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | NeverWait, Permissions);
     if (file < 0) return OpenFailure(path, errno);
     const FileError written = IsPipe(file) ? FileError::NotAFile : WriteAll(file, text);

@@ -23,6 +23,8 @@ public:
     NumberReader& operator=(const NumberReader&) = delete;
 
     FileError Error() const { return Failure; }
+    /// What the system calls the failure (errno), or 0 if the failure is none of its own.
+    int SystemError() const { return SystemFailure; }
 
     /// Skips spaces, tabs, commas and line ends and reads the next value into `value`. False, with
     /// `value` unchanged, on the first error and ever after.
@@ -38,6 +40,7 @@ private:
     /// The next byte, or EndOfData at the end and on errors.
     int Peek();
     bool Fail(FileError error);
+    void FailBy(int systemError, FileError error);
     void CountLineEnd(int byte);
     bool SkipSeparators();
 
@@ -46,6 +49,7 @@ private:
     std::size_t Filled = 0;
     int File = -1;
     FileError Failure = FileError::None;
+    int SystemFailure = 0;
     std::int64_t CurrentLine = 1;
     std::int64_t ValueLine = 1;
     int LastSeparator = 0;
@@ -54,7 +58,8 @@ private:
 /// A number as files hold it: a sign column (a space unless negative), the digits, a space.
 std::string NumberText(Int16 value);
 
-/// Creates or empties the file and writes the text. A failure can leave a part of it behind.
+/// Creates or empties the file and writes the text. A failure can leave a part of it behind; then
+/// errno is what the system calls it, or 0 if the failure is none of its own.
 FileError WriteTextFile(const std::string& path, const std::string& text);
 
 }  // namespace brastel

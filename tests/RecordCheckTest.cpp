@@ -23,8 +23,9 @@ TEST(RecordCheckTest, DamageIsToldWithLineAndCause) {
         {"damaged/05-square-of-red-and-blue", ":19: error 5: a start square used twice"},
         {"damaged/06-thirteen-blue", ":1: error 6: more than 12 pieces of a side"},
         {"damaged/06-two-hundred-and-one-entries", ":20: error 6: more than 200 entries"},
-        {"missing", ": there is no such file"},
-        {"missing/missing", ": the path cannot be followed, or the file may not be opened"},
+        {"missing", ": No such file or directory"},
+        {"missing/missing", ": No such file or directory"},
+        {std::string(300, 'x'), ": File name too long"},
         {"good", ": not an ordinary file"},
         {"good/02-entry-of-the-other-side",
          ":23: entry 3 (44 52) breaks the rules: the piece belongs to the other side"},
@@ -125,6 +126,7 @@ TEST(RecordCheckTest, RingsArePlacedAsInTheGame) {
     EXPECT_EQ(BrokenRule(42, 0), "the piece belongs to the other side");
     EXPECT_EQ(BrokenRule(60, 0), "no piece stands there to take the ring");
     EXPECT_EQ(BrokenRule(-1, 0), "there is no such square");
+    EXPECT_EQ(BrokenRule(0, 0), "the ring must be given to a piece first");
     // A free setup, in which any piece may have it, writes its square there.
     RedStart[0] = 28;
     EXPECT_EQ(BrokenRule(28, 0), "");
@@ -249,6 +251,19 @@ TEST(RecordReportTest, GamesAreTold) {
               "   3. Red from off the board to row 1, column 1\n"
               "      *** breaks the rules: there is no such square\n"
               "      the game cannot be played on from here\n");
+    EXPECT_TRUE(MovesInWords(Written(Start + "1\n0 0\n"))
+                    .starts_with("   1. Red gives the ring to no piece\n"));
+}
+
+/// Who stands beside the carriers goes back and forth until the record is full.
+TEST(RecordReportTest, FullRecordIsADraw) {
+    FileDesk desk;
+    std::string entries = "200\n68 0 92 0\n20 19 44 43\n";
+    for (int n = 2; n < 99; n += 2) entries += "19 20 43 44\n20 19 44 43\n";
+    const RecordedGame game = Written(Start + entries);
+    EXPECT_EQ(Verdict(game), "g: 200 entries, drawn: the record is full");
+    EXPECT_EQ(Caption(game, 200), "After entry 200: drawn: the record is full");
+    EXPECT_EQ(Caption(game, 199), "After entry 199: Blue to move");
 }
 
 TEST(RecordReportTest, PositionsAreDrawn) {

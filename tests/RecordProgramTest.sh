@@ -28,7 +28,7 @@ expect() {
 
 expect 0 'game: 3 entries, Blue to move' '' game
 expect 1 'game: 3*broken:23: entry 3 *damaged:10: error 5: *' '' game broken damaged
-expect 2 'game: 3*' 'brastel-record: missing: there is no such file' missing game
+expect 2 'game: 3*' 'brastel-record: missing: No such file or directory' missing game
 expect 0 'game: *   3. Red piece 1 from row 9, column 2 to row 8, column 2' '' --moves game
 expect 1 'damaged:10: error 5: *' '' --moves damaged
 expect 0 'After entry 3: Blue to move*' '' --at end game
@@ -47,9 +47,10 @@ expect 2 '' '*see --help'
 expect 2 '' '*name one file' --at 1 game broken
 expect 2 '' '*old: exists; --force overwrites it' --at 1 -o old game
 expect 2 '' '*game: that is the record itself' --force -o game game
-expect 2 '' '*missing/new: the path cannot be followed*' -o missing/new game
+expect 2 '' '*missing/new: No such file or directory' -o missing/new game
 expect 2 '' '*exists*' -o . game
-expect 2 '' '*not an ordinary file' --force -o . game
+expect 2 '' '*: Is a directory' --force -o . game
+expect 2 '' '*: File name too long' --force -o "$(printf '%300s' x)" game
 expect 2 '' '*no position after entry 9*' --at 9 --force -o old game
 [ "$(cat old)" = kept ] || { echo "An old file was emptied for nothing."; Faults=1; }
 expect 0 '' '' -o new game

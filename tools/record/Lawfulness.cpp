@@ -142,6 +142,7 @@ std::string_view BrokenPlacementRule(const Entry& entry) {
     const bool wasSetUp = (side == Red ? RedStart : BlueStart)[0] == entry.From;
     if (isOwn && (piece.Index <= LastRingPiece || wasSetUp)) return {};
     if (IsCandidate(entry)) return {};
+    if (entry.From == NoSquare) return "the ring must be given to a piece first";
     if (!IsOnBoard(entry.From)) return "there is no such square";
     if (!piece) return "no piece stands there to take the ring";
     return isOwn ? "only pieces 1 to 8 may take the ring" : "the piece belongs to the other side";

@@ -119,7 +119,7 @@ public:
         if (Gathered.empty()) return true;
         const FileError error = WriteTextFile(Path, Gathered);
         if (error == FileError::None) return true;
-        Complain(Path + ": " + std::string(FileErrorInWords(error)));
+        Complain(Path + ": " + FailureInWords(error, errno));
         return false;
     }
 

@@ -125,6 +125,7 @@ RecordedGame ReadRecordedGame(const std::string& path) {
     const GameReading reading = ReadGameFile(path);
     game.Path = path;
     game.Error = reading.Error;
+    game.SystemError = reading.SystemError;
     game.Cause = reading.Cause;
     game.Line = reading.Line;
     if (reading.Error != FileError::None) return game;

@@ -21,6 +21,8 @@ struct RecordedGame {
     std::string Path;
     /// Whether the file could be read. If not, nothing below holds anything.
     FileError Error = FileError::None;
+    /// What the system calls the failure (errno), or 0 if the failure is none of its own.
+    int SystemError = 0;
     /// What is wrong with the file, or with BrokenEntry; empty if nothing is.
     std::string_view Cause;
     /// The line of the file that Cause speaks of.

@@ -4,11 +4,14 @@
 #include "play/Words.h"
 #include "tools/record/TextBoard.h"
 
+#include <cstring>
+
 namespace brastel {
 
 namespace {
 
 constexpr int NumberWidth = 4;
+constexpr std::string_view DrawnInWords = "drawn: the record is full";
 
 const Position& PositionAfter(const RecordedGame& game, int entry) {
     return game.Positions[static_cast<std::size_t>(entry)];
@@ -18,7 +21,12 @@ std::string Counted(int count, std::string_view one, std::string_view many) {
     return std::to_string(count) + ' ' + std::string(count == 1 ? one : many);
 }
 
+bool IsDrawn(const RecordedGame& game) {
+    return game.Winner == Empty && game.Entries.size() == MaxEntries;
+}
+
 std::string Outcome(const RecordedGame& game) {
+    if (IsDrawn(game)) return std::string(DrawnInWords);
     if (game.Winner == Empty) {
         return SideInWords(game.Positions.back().SideToMove) + " to move";
     }
@@ -53,8 +61,11 @@ std::string EntryInWords(const RecordedGame& game, int entry) {
 std::string FileEntryInWords(const RecordedGame& game, int entry) {
     const RecordedEntry& broken = game.Entries[static_cast<std::size_t>(entry) - 1];
     const std::string side = SideInWords(PositionAfter(game, entry - 1).SideToMove);
+    if (entry <= RingCount) {
+        return side + (IsOnBoard(broken.From) ? " places the ring on " + SquareInWords(broken.From)
+                                              : " gives the ring to no piece");
+    }
     if (broken.From == NoSquare && broken.To == NoSquare) return side + " passes";
-    if (entry <= RingCount) return side + " places the ring on " + SquareInWords(broken.From);
     return side + " from " + SquareInWords(broken.From) + " to " + SquareInWords(broken.To);
 }
 
@@ -66,6 +77,10 @@ std::string BrokenLine(const RecordedGame& game) {
 }
 
 }  // namespace
+
+std::string FailureInWords(FileError error, int systemError) {
+    return systemError != 0 ? std::strerror(systemError) : std::string(FileErrorInWords(error));
+}
 
 bool IsUnreadable(const RecordedGame& game) {
     switch (game.Error) {
@@ -80,8 +95,8 @@ bool IsUnreadable(const RecordedGame& game) {
 }
 
 std::string Verdict(const RecordedGame& game) {
+    if (IsUnreadable(game)) return game.Path + ": " + FailureInWords(game.Error, game.SystemError);
     const std::string cause(game.Cause);
-    if (IsUnreadable(game)) return game.Path + ": " + cause;
     const std::string place = game.Path + ':' + std::to_string(game.Line) + ": ";
     if (game.Error != FileError::None) {
         return place + "error " + std::to_string(static_cast<int>(game.Error)) + ": " + cause;
@@ -114,7 +129,9 @@ std::string MovesInWords(const RecordedGame& game) {
 std::string Caption(const RecordedGame& game, int entry) {
     Pos = PositionAfter(game, entry);
     const Int16 winner = BothRingsPlaced() && entry > RingCount ? FindWinner() : Empty;
+    const bool isDrawn = IsDrawn(game) && entry == MaxEntries;
     const std::string state = winner != Empty     ? SideInWords(winner) + " wins"
+                              : isDrawn           ? std::string(DrawnInWords)
                               : entry < RingCount ? SideInWords(Pos.SideToMove) + " places its ring"
                                                   : SideInWords(Pos.SideToMove) + " to move";
     return (entry == 0 ? "At the start: " : "After entry " + std::to_string(entry) + ": ") + state;

@@ -5,6 +5,9 @@
 /// What the program says about a game.
 namespace brastel {
 
+/// What went wrong, as the system tells it if it has a number (errno) for it.
+std::string FailureInWords(FileError error, int systemError);
+
 /// True if the file could not be read for a reason outside it: its path, or the system.
 bool IsUnreadable(const RecordedGame& game);
 
