@@ -6,6 +6,7 @@
 #include "tools/match/PlayMatch.h"
 #include "tools/match/SavedGames.h"
 
+#include <numeric>
 #include <set>
 #include <tuple>
 
@@ -40,17 +41,22 @@ const EloCase EloCases[] = {
     {"nothing", {}, "unknown"},
 };
 
+Elo EloFrom(const Results& results) {
+    const double sum = std::accumulate(results.begin(), results.end(), 0.0);
+    return EloOf(sum / static_cast<double>(results.size()), results);
+}
+
 TEST(MatchTest, EloDifferenceIsTheOneWorkedOutByHand) {
     for (const auto& [what, played, text] : EloCases)
-        EXPECT_EQ(EloText(EloOf(played)), text) << what;
+        EXPECT_EQ(EloText(EloFrom(played)), text) << what;
 }
 
 TEST(MatchTest, DifferencesAddUp) {
     const char* const cases[][3] = {
         {"+30 ± 30", "+100 ± 40", "+130 ± 50"},
         {"-30 ± 0", "+10 ± 7", "-20 ± 7"},
-        {"+30 ± 30", "> 183", "> 213"},
-        {"< -183", "+30 ± 30", "< -153"},
+        {"+30 ± 30", "> 183", "> 183"},
+        {"< -183", "+30 ± 30", "< -123"},
         {"> 100", "> 200", "> 300"},
         {"> 183", "< -20", "unknown"},
         {"unknown", "+1 ± 1", "unknown"},
@@ -58,7 +64,8 @@ TEST(MatchTest, DifferencesAddUp) {
     for (const auto& [lower, upper, sum] : cases) {
         EXPECT_EQ(EloText(Sum(ReadElo(lower).value(), ReadElo(upper).value())), sum);
     }
-    for (const char* const text : {"", "+30", "30 ± x", "+30 ± -1", "> ", "nan ± 1", "+1 ± 1 "}) {
+    for (const char* const text :
+         {"", "+30", "30 ± x", "+30 ± -1", "> ", "nan ± 1", "inf ± 1", "> 100001", "+1 ± 1 "}) {
         EXPECT_FALSE(ReadElo(text)) << text;
     }
 }
@@ -88,9 +95,12 @@ TEST(MatchTest, ScoreIsSeenFromTheFirstStrength) {
     EXPECT_EQ(counts, (std::array<int, 9>{6, 3, 1, 2, 1, 1, 2, 3, 5}));
     EXPECT_DOUBLE_EQ(score.MeanLength, 38);
     // Each pair has a result of its own: 1/2, 1/2 and 3/4.
-    EXPECT_EQ(EloText(score.Difference), EloText(EloOf(Results{.5, .5, .75})));
+    EXPECT_EQ(EloText(score.Difference), EloText(EloFrom(Results{.5, .5, .75})));
     EXPECT_EQ(EloText(ScoreOf(games, false).Difference),
-              EloText(EloOf(Results{1, 0, 0, 1, .5, 1})));
+              EloText(EloFrom(Results{1, 0, 0, 1, .5, 1})));
+    // A game without its twin counts as much as any other.
+    const std::vector<MatchGame> three(games.begin(), games.begin() + 3);
+    EXPECT_TRUE(EloText(ScoreOf(three, true).Difference).starts_with("-120 ±"));
     // The first strength has the odd entries of games 1, 3 and 5 and the even ones of the others.
     const std::vector<MatchGame> two(games.begin(), games.begin() + 2);
     EXPECT_NEAR(ScoreOf(two, true).First.MedianSeconds, .005, 1e-6);
@@ -237,7 +247,7 @@ TEST(MatchTest, MatchEndsWhereAGameCannotBeSaved) {
 // ---- The ladder ----
 
 Ladder SmallLadder(Int16 from, Int16 to) {
-    Ladder ladder = BeginLadder(Terms(1, 1, true), 4);
+    Ladder ladder = BeginLadder(Terms(1, 1, true));
     for (Int16 level = from; level < to; ++level) {
         MatchScore score;
         score.Games = 4;
@@ -261,19 +271,47 @@ TEST(MatchTest, LadderJoinsItsParts) {
     EXPECT_EQ(LadderText(joined), whole);
 }
 
+/// Also parts of older tables, which tell the number of games and add bounds up otherwise.
+TEST(MatchTest, LadderIsAddedUpAnewWhenItIsJoined) {
+    const std::string head = LadderHead(BeginLadder(Terms(1, 1, true)));
+    const std::string rest = head.substr(head.find("colours"));
+    const auto part = [&](const char* games, const char* rows) {
+        return "Each strength against the one below, " + (games + rest) + rows;
+    };
+    const char* const cells = "| | | | | | |\n";
+    const std::string lower = std::string("|1||||0") + cells + "|2|||+30 ± 30|+30 ± 30" + cells;
+    const std::string upper = std::string("|2||||0") + cells + "|3|||+70 ± 40|+70 ± 40" + cells +
+                              "|4|||> 183|> 253" + cells;
+    Ladder ladder;
+    EXPECT_EQ(JoinLadder(ladder, part("400 games, ", lower.c_str())), "");
+    EXPECT_EQ(JoinLadder(ladder, part("", upper.c_str())), "");
+    EXPECT_EQ(EloText(ladder.Rungs.back().Height), "> 233");
+    EXPECT_EQ(ladder.Terms + "\n", head.substr(0, head.find('\n') + 1));
+}
+
+std::string WithoutLine(const std::string& text, const std::string& begin) {
+    const std::size_t at = text.find(begin);
+    return text.substr(0, at) + text.substr(text.find('\n', at) + 1);
+}
+
 TEST(MatchTest, LadderRefusesWhatDoesNotFit) {
     const std::string lower = LadderText(SmallLadder(1, 3));
     const std::string upper = LadderText(SmallLadder(4, 6));
     std::string torn = lower;
-    torn.replace(torn.find("+30 ±"), 3, "x30");
-    const std::pair<std::vector<std::string>, const char*> cases[] = {
+    torn.replace(torn.find("+20 ±"), 3, "x20");
+    std::string other = LadderText(SmallLadder(3, 4));
+    other.replace(other.find("seed 1"), 6, "seed 2");
+    const std::pair<std::vector<std::string>, std::string> cases[] = {
         {{""}, "there is no ladder in it"},
         {{lower.substr(0, lower.find("| level"))}, "there is no ladder in it"},
         {{lower, upper}, "Advanced does not follow on Difficult"},
-        {{lower, upper.substr(upper.find("|     5"))}, "Expert does not follow on Difficult"},
+        {{lower, WithoutLine(upper, "|     4")}, "Expert does not follow on Difficult"},
         {{upper, lower}, "Easy does not follow on Master"},
-        {{upper.substr(upper.find("|     5"))}, "Expert does not follow on anything"},
-        {{torn}, "Difficult stands at no height that can be read"},
+        {{upper.substr(upper.find("|     5"))}, "there is no ladder in it"},
+        {{torn}, "how much stronger Difficult is cannot be read"},
+        {{lower, other},
+         "its terms are \"" + other.substr(0, other.find('\n')) + "\" and not \"" +
+             lower.substr(0, lower.find('\n')) + '"'},
     };
     for (const auto& [texts, complaint] : cases) {
         Ladder ladder;

@@ -7,7 +7,6 @@
 #include <charconv>
 #include <cmath>
 #include <numbers>
-#include <numeric>
 
 namespace brastel {
 
@@ -19,6 +18,8 @@ constexpr double Confidence = 1.959964;
 constexpr double Doubt = 0.05;
 /// Half a point, squared.
 constexpr double LeastSquares = 0.25;
+/// Of what is read: far beyond any match.
+constexpr double MostPoints = 100000;
 
 constexpr double PointsPerNaturalUnit = 400 / std::numbers::ln10;
 
@@ -52,17 +53,16 @@ std::optional<double> ReadPoints(std::string_view text) {
     double points = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, points);
-    const bool isRight = error == std::errc() && stop == end && std::isfinite(points);
+    // No comparison holds for what is no number.
+    const bool isRight = error == std::errc() && stop == end && std::abs(points) <= MostPoints;
     return isRight ? std::optional(points) : std::nullopt;
 }
 
 }  // namespace
 
-Elo EloOf(std::span<const double> results) {
+Elo EloOf(double mean, std::span<const double> results) {
     if (results.empty()) return {0, 0, Certainty::Unknown};
-    const double count = static_cast<double>(results.size());
-    const double mean = std::accumulate(results.begin(), results.end(), 0.0) / count;
-    const double bound = PointsOf(std::pow(Doubt, 1 / count));
+    const double bound = PointsOf(std::pow(Doubt, 1 / static_cast<double>(results.size())));
     if (mean >= 1) return {bound, 0, Certainty::AtLeast};
     if (mean <= 0) return {-bound, 0, Certainty::AtMost};
     const double slope = PointsPerNaturalUnit / (mean * (1 - mean));
@@ -71,8 +71,11 @@ Elo EloOf(std::span<const double> results) {
 }
 
 Elo Sum(const Elo& lower, const Elo& upper) {
-    return {lower.Points + upper.Points, std::hypot(lower.Error, upper.Error),
-            Either(lower.Kind, upper.Kind)};
+    const double points = lower.Points + upper.Points;
+    const Certainty kind = Either(lower.Kind, upper.Kind);
+    if (kind == Certainty::AtLeast) return {points - lower.Error - upper.Error, 0, kind};
+    if (kind == Certainty::AtMost) return {points + lower.Error + upper.Error, 0, kind};
+    return {points, std::hypot(lower.Error, upper.Error), kind};
 }
 
 std::string EloText(const Elo& elo) {

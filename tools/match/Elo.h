@@ -19,14 +19,15 @@ struct Elo {
     Certainty Kind = Certainty::Estimate;
 };
 
-/// The difference that goes with results, each from 0 for a lost to 1 for a won game; games that
-/// depend on each other are one result, their mean. The error comes from how the results differ, by
-/// at least as much as if one of them had been half a point away from the others. Results that are
-/// all 0 or all 1 give the bound that they overstep in only 5 of 100 matches. No results tell
+/// The difference that goes with the mean of all games, each from 0 if lost to 1 if won. The error
+/// comes from how the results differ, by at least as much as if one of them had been half a point
+/// away from the others; there games that depend on each other are one result, their mean. If all
+/// games are lost or won, the bound that they overstep in only 5 of 100 matches. No results tell
 /// nothing.
-Elo EloOf(std::span<const double> results);
+Elo EloOf(double mean, std::span<const double> results);
 
-/// The difference from the lowest to the highest of three strengths.
+/// The difference from the lowest to the highest of three strengths. A bound is added to that end
+/// of an estimate that it is safe with.
 Elo Sum(const Elo& lower, const Elo& upper);
 
 /// As in "+120 ± 35", "> 484" or "unknown".

@@ -5,6 +5,7 @@
 #include "tools/match/StrengthName.h"
 #include "tools/match/TableText.h"
 
+#include <algorithm>
 #include <sstream>
 
 namespace brastel {
@@ -14,6 +15,8 @@ namespace {
 const LadderCells Captions{"level",       "strength",       "score, %",     "difference",
                            "ladder",      "won/drawn/lost", "Red/Blue won", "different",
                            "mean length", "median ms",      "worst ms"};
+constexpr std::string_view TermsBegin = "Each strength against the one below, ";
+constexpr std::string_view GamesWord = " games, ";
 constexpr std::array<int, LadderColumns> Widths{5, -11, 8, 11, 12, 15, 14, 9, 11, 9, 8};
 
 std::string TableLine(const LadderCells& cells) {
@@ -42,7 +45,7 @@ LadderCells CellsOf(Int16 level, const ThinkingTime& time) {
 
 LadderCells CellsOf(Int16 level, const MatchScore& score) {
     LadderCells cells = CellsOf(level, score.First);
-    cells[ScoreColumn] = Format("%.1f", PercentOf(score));
+    cells[ScoreColumn] = Format("%.1f", 100 * MeanOf(score));
     cells[StepColumn] = EloText(score.Difference);
     cells[5] = Format("%d / %d / %d", score.Wins, score.Draws, score.Losses);
     cells[6] = Format("%d / %d", WinsByRed(score), WinsByBlue(score));
@@ -57,9 +60,15 @@ void AddFoot(Ladder& ladder, Int16 level, const LadderCells& cells) {
     ladder.Rungs.back().Cells[HeightColumn].assign(1, '0');
 }
 
-void AddRung(Ladder& ladder, Int16 level, const Elo& height, const LadderCells& cells) {
+/// The height adds up from what the cells tell, so that a ladder stays the same when it is joined.
+/// False if they tell no difference.
+bool AddRung(Ladder& ladder, Int16 level, const LadderCells& cells) {
+    const auto step = ReadElo(cells[StepColumn]);
+    if (!step) return false;
+    const Elo height = Sum(ladder.Rungs.back().Height, *step);
     ladder.Rungs.push_back({level, height, cells});
     ladder.Rungs.back().Cells[HeightColumn] = EloText(height);
+    return true;
 }
 
 // ---- Reading ----
@@ -88,50 +97,56 @@ std::string DoesNotFollow(const Ladder& ladder, int level) {
            (ladder.Rungs.empty() ? "anything" : StrengthName(ladder.Rungs.back().Level));
 }
 
-/// The rows of one text, which begins at its foot.
+/// Older tables tell the number of games, too, in which the parts of a ladder may differ.
+std::string WithoutGames(const std::string& terms) {
+    if (!terms.starts_with(TermsBegin)) return terms;
+    const std::size_t first = TermsBegin.size();
+    const std::size_t last = std::min(terms.find_first_not_of("0123456789", first), terms.size());
+    const bool hasGames = last != first && terms.compare(last, GamesWord.size(), GamesWord) == 0;
+    return hasGames ? terms.substr(0, first) + terms.substr(last + GamesWord.size()) : terms;
+}
+
+/// The rows of one text, which begins at its foot. Each operation returns what is wrong, or
+/// nothing.
 class Part {
 public:
     explicit Part(Ladder& ladder) : Whole(ladder) {}
 
-    /// Returns what is wrong with it, or nothing.
-    std::string Join(Int16 level, const LadderCells& cells) {
-        HasRows = true;
-        return cells[StepColumn].empty() ? JoinFoot(level, cells) : JoinRung(level, cells);
+    std::string Begin(const std::string& terms) {
+        HasTerms = true;
+        if (Whole.Rungs.empty()) Whole.Terms = terms;
+        if (terms == Whole.Terms) return {};
+        return "its terms are \"" + terms + "\" and not \"" + Whole.Terms + '"';
     }
-    bool IsEmpty() const { return !HasRows; }
+    /// Numbers above the captions belong to something else.
+    std::string Join(Int16 level, const LadderCells& cells) {
+        if (!HasTerms) return {};
+        const bool isFoot = cells[StepColumn].empty();
+        if (isFoot && Whole.Rungs.empty()) AddFoot(Whole, level, cells);
+        const bool follows =
+            (isFoot || HasFoot) && Whole.Rungs.back().Level == (isFoot ? level : level - 1);
+        if (!follows) return DoesNotFollow(Whole, level);
+        HasFoot = true;
+        if (isFoot || AddRung(Whole, level, cells)) return {};
+        return "how much stronger " + StrengthName(level) + " is cannot be read";
+    }
+    bool IsEmpty() const { return !HasFoot; }
 
 private:
-    std::string JoinFoot(Int16 level, const LadderCells& cells) {
-        if (Whole.Rungs.empty()) AddFoot(Whole, level, cells);
-        if (Whole.Rungs.back().Level != level) return DoesNotFollow(Whole, level);
-        Foot = Whole.Rungs.back().Height;
-        return {};
-    }
-    std::string JoinRung(Int16 level, const LadderCells& cells) {
-        const auto height = ReadElo(cells[HeightColumn]);
-        if (!height) return StrengthName(level) + " stands at no height that can be read";
-        if (!Foot || Whole.Rungs.back().Level != level - 1) return DoesNotFollow(Whole, level);
-        AddRung(Whole, level, Sum(*Foot, *height), cells);
-        return {};
-    }
-
     Ladder& Whole;
-    std::optional<Elo> Foot;
-    bool HasRows = false;
+    bool HasTerms = false;
+    bool HasFoot = false;
 };
 
 }  // namespace
 
-Ladder BeginLadder(const MatchTerms& terms, int games) {
-    return {"Each strength against the one below, " + std::to_string(games) +
-                " games, colours alternating, " + TermsText(terms),
-            {}};
+Ladder BeginLadder(const MatchTerms& terms) {
+    return {std::string(TermsBegin) + "colours alternating, " + TermsText(terms), {}};
 }
 
 void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score) {
     if (ladder.Rungs.empty()) AddFoot(ladder, terms.Second, CellsOf(terms.Second, score.Second));
-    const Elo height = Sum(ladder.Rungs.back().Height, score.Difference);
-    AddRung(ladder, terms.First, height, CellsOf(terms.First, score));
+    AddRung(ladder, terms.First, CellsOf(terms.First, score));
 }
 
 std::string LadderHead(const Ladder& ladder) {
@@ -151,13 +166,13 @@ std::string JoinLadder(Ladder& ladder, const std::string& text) {
     Part part(ladder);
     for (std::string line, last; std::getline(lines, line);) {
         const auto cells = ReadCells(line);
-        // The terms are the last line before the table.
-        if (cells && *cells == Captions && ladder.Rungs.empty()) ladder.Terms = last;
-        if (!Trimmed(line).empty()) last = Trimmed(line);
+        std::string wrong;
         const auto level = cells ? ReadNumber((*cells)[LevelColumn], 1, MaxPly) : std::nullopt;
-        if (!level) continue;
-        std::string wrong = part.Join(ToInt16(static_cast<int>(*level)), *cells);
+        if (level) wrong = part.Join(ToInt16(static_cast<int>(*level)), *cells);
+        // The terms are the last line before the table.
+        if (cells && *cells == Captions) wrong = part.Begin(WithoutGames(last));
         if (!wrong.empty()) return wrong;
+        if (!Trimmed(line).empty()) last = Trimmed(line);
     }
     return part.IsEmpty() ? "there is no ladder in it" : "";
 }

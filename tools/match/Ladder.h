@@ -34,8 +34,8 @@ struct Ladder {
     std::vector<Rung> Rungs;
 };
 
-/// An empty ladder for matches of so many games.
-Ladder BeginLadder(const MatchTerms& terms, int games);
+/// An empty ladder. Which strengths play, and how often, is left to each match.
+Ladder BeginLadder(const MatchTerms& terms);
 
 /// Puts the first strength of a match on top. The second one is on top before, or stands at the
 /// foot from now on.
@@ -48,7 +48,8 @@ std::string LadderRow(const Rung& rung);
 std::string LadderText(const Ladder& ladder);
 
 /// Puts the rungs of such a text on top; its foot must be the topmost strength before, if there is
-/// any. Whatever else it holds is passed over. Returns what is wrong with it, or nothing.
+/// any, and its terms the same. The heights are added up anew. Whatever else it holds is passed
+/// over. Returns what is wrong with it, or nothing.
 std::string JoinLadder(Ladder& ladder, const std::string& text);
 
 }  // namespace brastel

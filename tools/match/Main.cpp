@@ -158,7 +158,7 @@ int WriteProgress(const Options& options, const Ladder& ladder) {
 }
 
 int PlayLadder(const Options& options) {
-    Ladder ladder = BeginLadder(options.Terms, options.Run.Games);
+    Ladder ladder = BeginLadder(options.Terms);
     for (int lower = options.From; lower < options.To; ++lower) {
         const MatchTerms terms = TermsOf(options, lower);
         std::vector<MatchGame> games;

@@ -51,8 +51,8 @@ ThinkingTime TimeOf(const std::vector<MatchGame>& games, bool first) {
 
 }  // namespace
 
-double PercentOf(const MatchScore& score) {
-    return score.Games == 0 ? 0 : 100 * (score.Wins + score.Draws / 2.0) / score.Games;
+double MeanOf(const MatchScore& score) {
+    return score.Games == 0 ? 0 : (score.Wins + score.Draws / 2.0) / score.Games;
 }
 int WinsByRed(const MatchScore& score) {
     return score.WinsAsRed + score.Losses - score.LossesAsRed;
@@ -76,7 +76,7 @@ MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired) {
     score.DifferentGames = static_cast<int>(different.size());
     score.First = TimeOf(games, true);
     score.Second = TimeOf(games, false);
-    score.Difference = EloOf(ResultsOf(games, paired));
+    score.Difference = EloOf(MeanOf(score), ResultsOf(games, paired));
     return score;
 }
 

@@ -30,12 +30,13 @@ struct MatchScore {
     Elo Difference;
 };
 
-/// Of the first strength, in percent; 0 before the first game.
-double PercentOf(const MatchScore& score);
+/// What a game brought the first strength, from 0 if lost to 1 if won; 0 before the first game.
+double MeanOf(const MatchScore& score);
 int WinsByRed(const MatchScore& score);
 int WinsByBlue(const MatchScore& score);
 
-/// Takes games with the same opening as one result, if `paired`. The games are ordered by number.
+/// Takes games with the same opening as one result for the error, if `paired`. The games are
+/// ordered by number.
 MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired);
 
 }  // namespace brastel

@@ -31,7 +31,7 @@ constexpr const char* AnotherColumn = "---------------------:|";
 
 std::string TableOfStrengths(const std::string& first, const std::string& second,
                              const MatchScore& score) {
-    const double percent = PercentOf(score);
+    const double percent = 100 * MeanOf(score);
     return Line("", first, second) + OneColumn + AnotherColumn + '\n' +
            Line("wins", score.Wins, score.Losses) +
            Line("wins as Red", score.WinsAsRed, score.Losses - score.LossesAsRed) +
