@@ -13,7 +13,7 @@ namespace {
 // ---- Measures, in pixels ----
 
 constexpr double Width = 860;
-constexpr double Top = 116;
+constexpr double Top = 126;
 constexpr double RowHeight = 34;
 /// Below the lowest row: the numbers of the axis and what they mean.
 constexpr double Foot = 64;
@@ -23,6 +23,8 @@ constexpr double PlotRight = 704;
 /// Margin of the texts at both sides.
 constexpr double Margin = 24;
 constexpr double TextDrop = 4.5;
+/// Characters of the first line of terms.
+constexpr std::size_t TermsLength = 64;
 constexpr double CapHeight = 5;
 constexpr double Radius = 5;
 constexpr double ArrowLength = 34;
@@ -117,6 +119,14 @@ std::string Text(const char* kind, double x, double y, const std::string& text) 
 std::string Line(const char* kind, double x1, double y1, double x2, double y2) {
     return Format("  <line class=\"%s\" x1=\"%.1f\" y1=\"%.1f\" x2=\"%.1f\" y2=\"%.1f\"/>\n", kind,
                   x1, y1, x2, y2);
+}
+
+/// In two lines, so that it fits.
+std::string TermsLines(const std::string& terms) {
+    const std::size_t comma = terms.rfind(", ", TermsLength);
+    const std::size_t end = comma == std::string::npos ? terms.size() : comma + 2;
+    return Text("terms", Margin, 64, terms.substr(0, end)) +
+           Text("terms", Margin, 81, terms.substr(end));
 }
 
 double RowOf(const Ladder& ladder, std::size_t n) {
@@ -216,8 +226,8 @@ std::string LadderChart(const Ladder& ladder) {
                Width, height, Width, height) +
            "  <title>" + title + "</title>\n" + Style +
            "  <rect class=\"ground\" width=\"100%\" height=\"100%\"/>\n" +
-           Text("title", Margin, 40, title) + Text("terms", Margin, 64, ladder.Terms) +
-           Grid(ladder, axis) + Steps(ladder, axis) + Rows(ladder, axis) +
+           Text("title", Margin, 40, title) + TermsLines(ladder.Terms) + Grid(ladder, axis) +
+           Steps(ladder, axis) + Rows(ladder, axis) +
            Text("axis", (PlotLeft + PlotRight) / 2, height - 20, unit) + "</svg>\n";
 }
 
