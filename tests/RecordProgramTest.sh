@@ -43,6 +43,7 @@ expect 2 '' '*see --help' --svg game
 expect 2 '' '*see --help' --moves --at 1 game
 expect 2 '' '*see --help' --nonsense game
 expect 2 '' '*see --help' --force game
+expect 2 '' '*see --help' --moves=false game
 expect 2 '' '*see --help'
 expect 2 '' '*name one file' --at 1 game broken
 expect 2 '' '*old: exists; --force overwrites it' --at 1 -o old game
@@ -67,4 +68,7 @@ mapfile -t many < <(yes game | head -n 2000)
     { echo "A closed pipe:"; cat out err; Faults=1; }
 "$Program" game >/dev/full 2>err
 [ $? -eq 2 ] && grep -q 'standard output' err || { echo "A full disk was not told."; Faults=1; }
+"$Program" --help >/dev/full 2>err && { echo "Help on a full disk."; Faults=1; }
+cp game '[game,broken]'
+expect 0 './\[game,broken\]: 3 entries, Blue to move' '' '[game,broken]'
 exit $((Faults > 0))

@@ -1,5 +1,6 @@
 /// Plays strengths of the computer player against each other.
 
+#include "tools/ExitStatus.h"
 #include "tools/Interrupt.h"
 #include "tools/match/LadderChart.h"
 #include "tools/match/MatchTable.h"
@@ -28,7 +29,7 @@ int Complain(const std::string& what, int status) {
 
 int CannotWrite(const std::string& path) {
     const std::string name = path.empty() ? "standard output" : path;
-    return Complain("cannot write " + name + ": " + std::strerror(errno), BadPath);
+    return Complain("cannot write " + name + ": " + std::strerror(errno), CannotDo);
 }
 
 /// What the file holds stays as it is.
@@ -110,7 +111,7 @@ int NotSaved(const std::vector<MatchGame>& games, const std::string& folder) {
     const auto game = std::ranges::find_if(games, &MatchGame::SaveError);
     return Complain("cannot save game " + std::to_string(game->Number) + " in " + folder + ": " +
                         std::strerror(game->SaveError),
-                    BadPath);
+                    CannotDo);
 }
 
 int StatusOf(MatchEnd end, const std::vector<MatchGame>& games, const MatchTerms& terms,
@@ -178,9 +179,9 @@ int JoinLadders(const Options& options) {
     Ladder ladder;
     for (const std::string& path : options.Joined) {
         const auto text = ReadText(path);
-        if (!text) return Complain("cannot read " + path + ": " + std::strerror(errno), BadPath);
+        if (!text) return Complain("cannot read " + path + ": " + std::strerror(errno), CannotDo);
         const std::string wrong = JoinLadder(ladder, *text);
-        if (!wrong.empty()) return Complain(path + " cannot be joined: " += wrong, BadPath);
+        if (!wrong.empty()) return Complain(path + " cannot be joined: " += wrong, CannotDo);
     }
     const int status = WriteText(options.TableFile, LadderText(ladder));
     return status != Done ? status : DrawChart(options, ladder);
@@ -193,7 +194,7 @@ int CheckPaths(const Options& options) {
     for (int lower = first; lower <= last && !options.Run.Folder.empty(); ++lower) {
         const MatchTerms terms = options.Ladder ? TermsOf(options, lower) : options.Terms;
         const std::string obstacle = PrepareFolder(options.Run.Folder, terms, options.Run.Games);
-        if (!obstacle.empty()) return Complain(obstacle, BadPath);
+        if (!obstacle.empty()) return Complain(obstacle, CannotDo);
     }
     for (const std::string& path : {options.TableFile, options.ChartFile}) {
         if (!path.empty() && !CanWrite(path)) return CannotWrite(path);

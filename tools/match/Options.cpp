@@ -1,10 +1,10 @@
 #include "tools/match/Options.h"
 
 #include "core/StartPosition.h"
+#include "tools/CommandLine.h"
 #include "tools/ReadNumber.h"
 #include "tools/match/StrengthName.h"
 
-#include <CLI/CLI.hpp>
 #include <array>
 #include <cctype>
 #include <limits>
@@ -27,10 +27,10 @@ Examples:
   brastel-match --ladder --games 200 --table ladder.md --chart ladder.svg
   brastel-match --ladder --join low.md high.md --chart ladder.svg
 
-Exit status: 0 done, 1 wrong arguments, 2 a path cannot be read or written, 3 the system
-failed, 130 interrupted. More in brastel-match(6).)";
+Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written, 3 the
+system failed, 130 interrupted. More in brastel-match(6).)";
 
-constexpr std::int64_t MostGames = 1'000'000;
+constexpr std::int64_t MostGames = 100'000;
 constexpr std::int64_t MostJobs = 256;
 constexpr std::int64_t MostRandomMoves = 10;
 
@@ -164,7 +164,7 @@ void AddHelp(CLI::App& app) {
         return program->get_name() + ": " + error.what() + "\nSee " + program->get_name() +
                " --help.\n";
     });
-    app.set_help_flag("--help", "print this text")->group("Other");
+    app.set_help_flag("-h,--help", "print this text")->group("Other");
     app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "print the version")
         ->group("Other");
 }
@@ -173,19 +173,21 @@ void AddHelp(CLI::App& app) {
 
 std::optional<int> ReadOptions(int count, const char* const* texts, Options& options) {
     CLI::App app(Description, "brastel-match");
+    app.option_defaults()->disable_flag_override();
     AddSingleMatch(app, options.Terms);
     AddLadder(app, options);
     AddGames(app, options);
     AddHelp(app);
-    try {
-        app.parse(count, texts);
+    for (const char* name : {"--from", "--to", "--games", "--pieces", "--seed", "--random-moves",
+                             "--jobs", "--save"}) {
+        app.get_option("--join")->excludes(app.get_option(name));
+    }
+    app.callback([&options] {
         if (options.Ladder && options.From >= options.To) {
             throw CLI::ValidationError("--from", "must be a strength below --to");
         }
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? Done : BadArguments;
-    }
-    return std::nullopt;
+    });
+    return ReadArguments(app, count, texts);
 }
 
 }  // namespace brastel

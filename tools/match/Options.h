@@ -7,8 +7,6 @@
 /// The command line of brastel-match.
 namespace brastel {
 
-enum ExitStatus { Done = 0, BadArguments = 1, BadPath = 2, SystemFailed = 3, WasInterrupted = 130 };
-
 struct Options {
     MatchTerms Terms;
     MatchRun Run;
@@ -24,8 +22,7 @@ struct Options {
     std::string ChartFile;
 };
 
-/// Reads the arguments. Where the program has nothing more to do, its exit status: help has been
-/// printed, or a complaint about an argument.
+/// Where the program has nothing more to do, its exit status.
 std::optional<int> ReadOptions(int count, const char* const* texts, Options& options);
 
 }  // namespace brastel

@@ -2,12 +2,12 @@
 
 #include "files/NumberFile.h"
 #include "play/GameRecord.h"
+#include "tools/CommandLine.h"
 #include "tools/Interrupt.h"
 #include "tools/ReadNumber.h"
 #include "tools/record/Report.h"
 #include "tools/record/SvgBoard.h"
 
-#include <CLI/CLI.hpp>
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
@@ -16,11 +16,6 @@
 namespace {
 
 using namespace brastel;
-
-constexpr int AllRight = 0;
-constexpr int FoundFault = 1;
-constexpr int CannotDo = 2;
-constexpr int WasInterrupted = 130;
 
 constexpr const char* Description =
     R"(Checks record files of Brastel, which Options > Save Game writes: whether they can be read and
@@ -34,8 +29,9 @@ constexpr const char* Examples = R"(Examples:
   brastel-record --at 37 game.txt                the position after 37 entries
   brastel-record --at end --svg -o end.svg game.txt
 
-Status: 0 if all is right; 1 if a file is damaged or an entry breaks the rules; 2 for bad arguments
-and for files that cannot be read or written; 130 after an interrupt.
+Status: 0 if all is right; 1 if a file is damaged or an entry breaks the rules; 2 for wrong
+arguments and for files that cannot be read or written; 3 if the system failed; 130 after an
+interrupt.
 )";
 
 struct Options {
@@ -157,12 +153,12 @@ int Draw(const Options& options, const RecordedGame& game, Output& output) {
         return CannotDo;
     }
     output.Write(Picture(options, game, entry));
-    return game.IsLawful() ? AllRight : FoundFault;
+    return game.IsLawful() ? Done : FoundFault;
 }
 
 int Check(const Options& options, const RecordedGame& game, Output& output) {
     output.Write(Verdict(game) + '\n' + (options.Moves ? MovesInWords(game) : ""));
-    return game.IsLawful() ? AllRight : FoundFault;
+    return game.IsLawful() ? Done : FoundFault;
 }
 
 int DoFile(const Options& options, const std::string& path, Output& output) {
@@ -176,7 +172,7 @@ int DoFile(const Options& options, const std::string& path, Output& output) {
 
 int Run(const Options& options) {
     Output output(options.Output);
-    int status = AllRight;
+    int status = Done;
     std::size_t done = 0;
     while (done < options.Files.size() && Interrupted == 0 && !output.HasFailed()) {
         status = std::max(status, DoFile(options, options.Files[done++], output));
@@ -190,13 +186,10 @@ int Run(const Options& options) {
 
 int Main(int count, char** texts) {
     CLI::App app(Description, "brastel-record");
+    app.option_defaults()->disable_flag_override();
     Options options;
     Declare(app, options);
-    try {
-        app.parse(count, texts);
-    } catch (const CLI::ParseError& error) {
-        return app.exit(error) == 0 ? AllRight : CannotDo;
-    }
+    if (const auto status = ReadArguments(app, count, texts)) return *status;
     if (const std::string wrong = FirstContradiction(options); !wrong.empty()) {
         Complain(wrong);
         return CannotDo;
@@ -213,6 +206,6 @@ int main(int count, char** texts) {
     } catch (const std::exception& error) {
         // Only memory can run out.
         std::fprintf(stderr, "brastel-record: %s\n", error.what());
-        return CannotDo;
+        return SystemFailed;
     }
 }

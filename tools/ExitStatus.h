@@ -1,0 +1,16 @@
+#pragma once
+
+namespace brastel {
+
+/// How the companions of the game end.
+enum ExitStatus {
+    Done = 0,
+    /// A record is damaged or breaks the rules.
+    FoundFault = 1,
+    /// Wrong arguments, or a path or standard output that cannot be read or written.
+    CannotDo = 2,
+    SystemFailed = 3,
+    WasInterrupted = 130
+};
+
+}  // namespace brastel
