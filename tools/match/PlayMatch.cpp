@@ -1,5 +1,6 @@
 #include "tools/match/PlayMatch.h"
 
+#include "tools/ExitStatus.h"
 #include "tools/Interrupt.h"
 #include "tools/match/SavedGames.h"
 
@@ -9,6 +10,7 @@
 #include <climits>
 #include <cstdio>
 #include <poll.h>
+#include <sys/prctl.h>
 #include <sys/wait.h>
 #include <type_traits>
 #include <unistd.h>
@@ -21,22 +23,33 @@ static_assert(std::is_trivially_copyable_v<MatchGame>);
 static_assert(sizeof(MatchGame) <= PIPE_BUF, "the games of several processes would get mixed up");
 
 constexpr int MillisecondsBetweenLooks = 100;
-constexpr int PlayedAll = 0;
-constexpr int StoppedEarly = 1;
 
-/// Games of one opening stay together. True if all were played.
-bool PlayShare(const MatchTerms& terms, const MatchRun& run, int worker, int output) {
+/// In one piece, as long as it is no larger than PIPE_BUF.
+bool Send(int output, const MatchGame& game) {
+    ssize_t written = 0;
+    do {
+        written = write(output, &game, sizeof game);
+    } while (written < 0 && errno == EINTR);
+    return written == static_cast<ssize_t>(sizeof game);
+}
+
+/// Games of one opening stay together.
+void PlayShare(const MatchTerms& terms, const MatchRun& run, int worker, int output) {
     for (int number = 1; number <= run.Games; ++number) {
         if ((number - 1) / 2 % run.Jobs != worker) continue;
         MatchGame game;
-        if (!PlayMatchGame(terms, number, game)) return false;
+        if (!PlayMatchGame(terms, number, game)) return;
         if (!run.Folder.empty()) {
             game.SaveError = SaveMatchGame(run.Folder + '/' + SavedGameName(terms, number));
         }
-        const ssize_t written = write(output, &game, sizeof game);
-        if (written != static_cast<ssize_t>(sizeof game) || game.SaveError != 0) return false;
+        if (!Send(output, game) || game.SaveError != 0) return;
     }
-    return true;
+}
+
+/// The end of its parent, however it comes, is an interrupt, too.
+void EndWith(pid_t parent) {
+    prctl(PR_SET_PDEATHSIG, SIGTERM);
+    if (getppid() != parent) Interrupted = 1;
 }
 
 class Workers {
@@ -46,11 +59,14 @@ public:
         if (pipe(ends.data()) != 0) return;
         Input = ends[0];
         std::fflush(nullptr);
+        const pid_t self = getpid();
         for (int worker = 0; worker < run.Jobs; ++worker) {
             const pid_t process = fork();
             if (process == 0) {
                 close(Input);
-                _exit(PlayShare(terms, run, worker, ends[1]) ? PlayedAll : StoppedEarly);
+                EndWith(self);
+                PlayShare(terms, run, worker, ends[1]);
+                _exit(Done);
             }
             if (process < 0) {
                 Stop();
@@ -76,8 +92,9 @@ public:
         for (const pid_t process : Processes) kill(process, SIGTERM);
     }
 
-    /// Waits for the next game. False when all workers have ended.
+    /// Waits for the next game. False when all workers have ended, or none could begin.
     bool Receive(MatchGame& game) const {
+        if (Input < 0) return false;
         pollfd input{Input, POLLIN, 0};
         // An interrupt can come just before the wait and not be noticed by it.
         do {
