@@ -33,16 +33,23 @@ refuse() {
 
 # ---- Bad arguments and paths ----
 
-touch file
+touch file table
+ln table other
 for bad in "--red 12" "--blue nobody" "--blue" "--pieces 7" "--pieces 0" "--games 0" "--games 1.5" \
     "--seed -1" "--random-moves 11" "--jobs 0" "--red 1 --red 2" "--ladder --red 3" \
     "--ladder --alternate" "--from 2" "--table t" "--chart c" "--join file" \
-    "--ladder --from 5 --to 5" "--unknown" "file"; do
+    "--ladder --from 5 --to 5" "--unknown" "file" "--games 100001"; do
     last=${bad##*--}
     # shellcheck disable=SC2086
     refuse 2 "${last%% *}" $bad
 done
+for bad in "--from 2" "--to 4" "--games 9" "--pieces 8" "--seed 2" "--random-moves 1" "--jobs 2" \
+    "--save new"; do
+    # shellcheck disable=SC2086
+    refuse 2 "${bad%% *}" --ladder --join file $bad
+done
 refuse 2 "--save" --save ""
+refuse 2 "flag override" --ladder=false
 refuse 2 "file: Not a directory" --save file
 refuse 2 "none/games: No such file or directory" --save none/games
 refuse 2 "none/t: No such file or directory" --ladder --table none/t
@@ -50,6 +57,14 @@ refuse 2 "none/c: No such file or directory" --ladder --chart none/c
 refuse 2 "cannot read none" --ladder --join none
 refuse 2 "cannot read ." --ladder --join .
 refuse 2 "file cannot be joined: there is no ladder in it" --ladder --join file
+refuse 2 "cannot read ./[file,table]" --ladder --join "[file,table]"
+refuse 2 "cannot read ./[file,table]" --ladder --join="[file,table]"
+refuse 2 "cannot read /dev/zero: File too large" --ladder --join /dev/zero
+refuse 2 "name the same file" --ladder --table new --chart ./new
+refuse 2 "name the same file" --ladder --table table --chart other
+refuse 2 "none/c" --ladder --table new --chart none/c --save games
+refuse 2 "Not a directory" --ladder --table new --save file
+[ "$(echo *)" = "err file other out table" ] || fail "left behind: $(echo *)"
 
 # ---- A match ----
 
@@ -61,6 +76,15 @@ grep -q '^| games  *| *6 |$' out || fail "there are not six games"
 refuse 2 "0001-Easy-Medium.txt exists" --red 1 --blue 2 --games 6 --alternate --save games
 "$Program" --red 1 --blue 1 --games 2 >/dev/full 2>err && fail "a full disk is not noticed"
 grep -q "cannot write standard output" err || fail "a full disk is not told"
+"$Program" --help >/dev/full 2>err && fail "a full disk is not noticed"
+# One file may be open besides the standard ones, so that libraries are found and no pipe is made.
+status=0
+(
+    exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-
+    ulimit -n 4
+    exec timeout 60 "$Program" --red 1 --blue 1 --games 2
+) >out 2>err || status=$?
+[ $status -eq 3 ] || fail "status $status without a pipe"
 
 # ---- The ladder ----
 
@@ -72,9 +96,12 @@ cmp out table.md || fail "a ladder is not read as it was written"
 
 # ---- Interrupts: the results so far ----
 
-for signal in INT TERM; do
+for signal in INT TERM HUP; do
     "$Program" --red 1 --blue 1 --games 100000 --jobs 2 --save "stopped$signal" >out 2>err &
-    until [ -n "$(ls "stopped$signal" 2>/dev/null)" ]; do sleep 0.05; done
+    until [ -n "$(ls "stopped$signal" 2>/dev/null)" ]; do
+        kill -0 $! || fail "the program ended by itself"
+        sleep 0.05
+    done
     status=0
     kill -$signal $!
     wait $! || status=$?

@@ -13,6 +13,8 @@
 #include <cerrno>
 #include <cstdio>
 #include <cstring>
+#include <exception>
+#include <filesystem>
 #include <optional>
 #include <unistd.h>
 
@@ -32,10 +34,24 @@ int CannotWrite(const std::string& path) {
     return Complain("cannot write " + name + ": " + std::strerror(errno), CannotDo);
 }
 
-/// What the file holds stays as it is.
+/// What the file holds stays as it is; one that does not exist is made only to try.
 bool CanWrite(const std::string& path) {
-    std::FILE* const file = std::fopen(path.c_str(), "a");
-    return file != nullptr && std::fclose(file) == 0;
+    std::FILE* file = std::fopen(path.c_str(), "wx");
+    const bool isNew = file != nullptr;
+    if (!isNew && errno == EEXIST) file = std::fopen(path.c_str(), "a");
+    if (file == nullptr || std::fclose(file) != 0) return false;
+    return !isNew || std::remove(path.c_str()) == 0;
+}
+
+/// By two names of any kind, whether it exists or not. Both can be written.
+bool IsSameFile(const std::string& a, const std::string& b) {
+    namespace fs = std::filesystem;
+    std::error_code ignored;
+    const auto place = [&](const std::string& path) {
+        return fs::weakly_canonical(fs::absolute(path, ignored), ignored);
+    };
+    if (a.empty() || b.empty()) return false;
+    return fs::equivalent(a, b, ignored) || place(a) == place(b);
 }
 
 /// Standard output for an empty path.
@@ -47,7 +63,10 @@ int WriteText(const std::string& path, const std::string& text) {
     return isWritten && isClosed ? Done : CannotWrite(path);
 }
 
-/// Nothing, and the cause in errno, where the file cannot be read to its end.
+/// Far more than a ladder and what is said about it.
+constexpr std::size_t MostBytes = 1 << 20;
+
+/// Nothing, and the cause in errno, where the file cannot be read to its end or is too large.
 std::optional<std::string> ReadText(const std::string& path) {
     std::FILE* const file = std::fopen(path.c_str(), "r");
     if (file == nullptr) return std::nullopt;
@@ -55,8 +74,9 @@ std::optional<std::string> ReadText(const std::string& path) {
     std::array<char, 4096> part{};
     while (const std::size_t count = std::fread(part.data(), 1, part.size(), file)) {
         text.append(part.data(), count);
+        if (text.size() > MostBytes) break;
     }
-    const int error = std::ferror(file) == 0 ? 0 : errno;
+    const int error = text.size() > MostBytes ? EFBIG : std::ferror(file) == 0 ? 0 : errno;
     std::fclose(file);
     errno = error;
     return error == 0 ? std::optional(text) : std::nullopt;
@@ -187,8 +207,15 @@ int JoinLadders(const Options& options) {
     return status != Done ? status : DrawChart(options, ladder);
 }
 
-/// What cannot be written is told before anything is played.
+/// What cannot be written is told before anything is played. The folder, which may be made, comes
+/// last, so that nothing is left behind.
 int CheckPaths(const Options& options) {
+    for (const std::string& path : {options.TableFile, options.ChartFile}) {
+        if (!path.empty() && !CanWrite(path)) return CannotWrite(path);
+    }
+    if (IsSameFile(options.TableFile, options.ChartFile)) {
+        return Complain("--table and --chart name the same file", CannotDo);
+    }
     const int first = options.Ladder ? options.From : 0;
     const int last = options.Ladder ? options.To - 1 : 0;
     for (int lower = first; lower <= last && !options.Run.Folder.empty(); ++lower) {
@@ -196,19 +223,25 @@ int CheckPaths(const Options& options) {
         const std::string obstacle = PrepareFolder(options.Run.Folder, terms, options.Run.Games);
         if (!obstacle.empty()) return Complain(obstacle, CannotDo);
     }
-    for (const std::string& path : {options.TableFile, options.ChartFile}) {
-        if (!path.empty() && !CanWrite(path)) return CannotWrite(path);
-    }
     return Done;
 }
 
-}  // namespace
-
-int main(int count, char** texts) {
+int Main(int count, char** texts) {
     Options options;
     if (const auto status = ReadOptions(count, texts, options)) return *status;
     if (const int status = CheckPaths(options)) return status;
     if (!options.Joined.empty()) return JoinLadders(options);
     WatchInterrupts();
     return options.Ladder ? PlayLadder(options) : PlaySingle(options);
+}
+
+}  // namespace
+
+int main(int count, char** texts) {
+    try {
+        return Main(count, texts);
+    } catch (const std::exception& error) {
+        // Only memory can run out.
+        return Complain(error.what(), SystemFailed);
+    }
 }
