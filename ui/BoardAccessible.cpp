@@ -186,9 +186,7 @@ public:
 
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Description) return QAccessibleWidget::text(kind);
-        return "Arrow keys move over the squares, Enter picks up and drops, Escape lets go, R "
-               "gives "
-               "the ring.";
+        return "Arrow keys move, Enter picks up and drops, Escape lets go, R gives the ring.";
     }
 
 private:

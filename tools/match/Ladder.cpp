@@ -5,7 +5,7 @@
 #include "tools/match/StrengthName.h"
 #include "tools/match/TableText.h"
 
-#include <algorithm>
+#include <cstdlib>
 #include <sstream>
 
 namespace brastel {
@@ -15,8 +15,6 @@ namespace {
 const LadderCells Captions{"level",       "strength",       "score, %",     "difference",
                            "ladder",      "won/drawn/lost", "Red/Blue won", "different",
                            "mean length", "median ms",      "worst ms"};
-constexpr std::string_view TermsBegin = "Each strength against the one below, ";
-constexpr std::string_view GamesWord = " games, ";
 constexpr std::array<int, LadderColumns> Widths{5, -11, 8, 11, 12, 15, 14, 9, 11, 9, 8};
 
 std::string TableLine(const LadderCells& cells) {
@@ -97,15 +95,6 @@ std::string DoesNotFollow(const Ladder& ladder, int level) {
            (ladder.Rungs.empty() ? "anything" : StrengthName(ladder.Rungs.back().Level));
 }
 
-/// Older tables tell the number of games, too, in which the parts of a ladder may differ.
-std::string WithoutGames(const std::string& terms) {
-    if (!terms.starts_with(TermsBegin)) return terms;
-    const std::size_t first = TermsBegin.size();
-    const std::size_t last = std::min(terms.find_first_not_of("0123456789", first), terms.size());
-    const bool hasGames = last != first && terms.compare(last, GamesWord.size(), GamesWord) == 0;
-    return hasGames ? terms.substr(0, first) + terms.substr(last + GamesWord.size()) : terms;
-}
-
 /// The rows of one text, which begins at its foot. Each operation returns what is wrong, or
 /// nothing.
 class Part {
@@ -141,7 +130,7 @@ private:
 }  // namespace
 
 Ladder BeginLadder(const MatchTerms& terms) {
-    return {std::string(TermsBegin) + "colours alternating, " + TermsText(terms), {}};
+    return {"Each strength against the one below, colours alternating, " + TermsText(terms), {}};
 }
 
 void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score) {
@@ -170,7 +159,7 @@ std::string JoinLadder(Ladder& ladder, const std::string& text) {
         const auto level = cells ? ReadNumber((*cells)[LevelColumn], 1, MaxPly) : std::nullopt;
         if (level) wrong = part.Join(ToInt16(static_cast<int>(*level)), *cells);
         // The terms are the last line before the table.
-        if (cells && *cells == Captions) wrong = part.Begin(WithoutGames(last));
+        if (cells && *cells == Captions) wrong = part.Begin(last);
         if (!wrong.empty()) return wrong;
         if (!Trimmed(line).empty()) last = Trimmed(line);
     }
