@@ -4,9 +4,7 @@
 set -euo pipefail
 
 Program=$(realpath "$1")
-Folder=$(mktemp -d)
-trap 'rm -rf "$Folder"' EXIT
-cd "$Folder"
+. "$(dirname "$0")/ScratchFolder.sh"
 
 fail() {
     echo "FAILED: $*" >&2

@@ -1,10 +1,9 @@
 # A display of its own for a test with a real window, in a scratch folder; to be sourced by bash. All
 # that is put into Started ends with the test.
 
-Folder=$(mktemp -d)
-cd "$Folder"
+. "${BASH_SOURCE%/*}/ScratchFolder.sh"
 Started=()
-trap 'kill "${Started[@]}" 2>/dev/null || true; rm -rf "$Folder"' EXIT
+trap 'kill "${Started[@]}" 2>/dev/null || true; remove_folder' EXIT
 
 fail() {
     echo "FAILED: $*" >&2
