@@ -58,9 +58,8 @@ constexpr bool Watches(const ReturnCell& cell, int square) {
            cell.Guards[2] == square;
 }
 
-/// By square, NoSquare included.
-constexpr auto CellsNear = [] {
-    Table<CellSet, NoSquare, LastSquare> near;
+constexpr auto CellsNearSquares = [] {
+    Table<CellSet, FirstSquare, LastSquare> near;
     for (int square = FirstSquare; square <= LastSquare; ++square) {
         for (std::size_t slot = 0; slot < ReturnCells.size(); ++slot) {
             if (Watches(ReturnCells[slot], square)) near[square] |= CellSet{1} << slot;
@@ -68,6 +67,8 @@ constexpr auto CellsNear = [] {
     }
     return near;
 }();
+
+CellSet CellsNear(int square) { return IsOnBoard(square) ? CellsNearSquares[square] : 0; }
 
 /// The pieces that come back in one pass.
 struct Returns {
@@ -122,7 +123,7 @@ int ReturnSquareOf(int cell) {
 void ReturnOutsidePieces() { ReturnPass(AllCells); }
 
 void ReturnOutsideNear(int square, int otherSquare) {
-    ReturnPass(CellsNear[square] | CellsNear[otherSquare]);
+    ReturnPass(CellsNear(square) | CellsNear(otherSquare));
 }
 
 }  // namespace brastel

@@ -30,8 +30,8 @@ void ReturnOutsidePieces();
 
 /// The same for only those cells whose return or guard square is one of the given ones: an action
 /// can let a piece return only where it changed a square. Both squares are served in one pass,
-/// since a piece let in near the first must not keep out one near the second. Squares outside the
-/// field have no such cells.
+/// since a piece let in near the first must not keep out one near the second. Numbers that are no
+/// field square have no such cells.
 void ReturnOutsideNear(int square, int otherSquare = NoSquare);
 
 }  // namespace brastel

@@ -28,7 +28,7 @@ bool HasReturned(int cell) {
 void TryCell(int cell, char letter, char opponent) {
     const std::string waiting = letter + std::to_string(cell) + ' ';
     const int inside = SquareInside(cell);
-    for (int s = FirstSquare; s <= LastSquare; ++s) {
+    for (int s = -9; s <= LastSquare + 9; ++s) {
         SCOPED_TRACE(waiting + std::to_string(s));
         const int distance = std::abs(Row(s) - Row(inside)) + std::abs(Column(s) - Column(inside));
         Place(waiting);
