@@ -21,9 +21,9 @@ bool CanPush(int origin, int destination) {
 
 bool ActionFits(int origin, int destination) {
     if (!BothRingsPlaced()) return IsOnBoard(origin);
-    if (origin == NoSquare && destination == NoSquare) return true;
-    if (!IsOnBoard(origin) || !IsOnBoard(destination)) return false;
-    if (Pos.Board[origin] != Pos.SideToMove) return false;
+    const Piece actor = PieceOn(origin);
+    if (!actor) return true;
+    if (actor.Side != Pos.SideToMove || !IsOnBoard(destination)) return false;
     return Pos.Board[destination] != -Pos.SideToMove || CanPush(origin, destination);
 }
 
@@ -51,11 +51,11 @@ void ApplyAction(int origin, int destination) {
 
 void ApplyMoveQuiet(int origin, int destination) {
     assert(ActionFits(origin, destination));
-    const bool changesCells =
-        BothRingsPlaced() && Pos.Board[origin] != Empty && Pos.Board[destination] != Pos.SideToMove;
+    const bool isByPiece = BothRingsPlaced() && IsOnBoard(origin) && Pos.Board[origin] != Empty;
+    const bool changesCells = isByPiece && Pos.Board[destination] != Pos.SideToMove;
     const bool isHit = changesCells && Pos.Board[destination] != Empty;
     ApplyAction(origin, destination);
-    // A carrier that enters the goal may step back in at once, which its origin does not tell.
+    // A carrier that enters the goal lands on a return cell, which need not be near its origin.
     const int entered = InField(destination) ? NoSquare : ReturnSquareOf(destination);
     if (changesCells) ReturnOutsideNear(origin, isHit ? destination : entered);
     Pos.SideToMove = ToInt16(-Pos.SideToMove);

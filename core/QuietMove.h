@@ -7,20 +7,21 @@
 ///
 /// An action is a pair of squares. What it means follows from the position: at MoveCount 1 and 2
 /// the ring of Red or Blue goes to the origin and the destination is not read; afterwards an empty
-/// destination makes a plain move, a friendly one a ring pass, an enemy one a hit. (0, 0) passes.
+/// destination makes a plain move, a friendly one a ring pass, an enemy one a hit. Where the origin
+/// holds no piece, as in the null move (0, 0), only the turn passes.
 namespace brastel {
 
-/// True if the action can be applied without breaking the position: a ring placement on the board,
-/// the null move, or a piece of the side to move acting on a board square, a hit with somewhere to
-/// push to. No rule beyond that is tested. Any numbers may be asked for.
+/// False if the action would break the position: it lays a ring off the board, moves a piece of the
+/// other side, leaves the board, or hits a piece that has no room to be pushed. No other rule is
+/// tested. Any numbers may be passed.
 bool ActionFits(int origin, int destination);
 
 /// True if people may take the action once both rings are placed: a plain move, a ring pass or a
 /// hit that its own check accepts. Any numbers may be asked for.
 bool IsAccepted(int origin, int destination);
 
-/// The changes of an action up to, but without, returns from outside and the turn. An origin
-/// without a piece, (0, 0) among them, changes nothing. Precondition: ActionFits.
+/// The changes of an action without the returns from outside and without the turn. Precondition:
+/// ActionFits.
 void ApplyAction(int origin, int destination);
 
 /// Applies the action, brings back pieces that it lets in, and passes the turn. The search calls
