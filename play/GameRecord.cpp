@@ -51,17 +51,6 @@ bool IsOnLoadedLine(int kept) {
     return true;
 }
 
-/// Plays entries 1 to `kept` again from the start. An entry that does not fit only passes the turn:
-/// pieces set up outside may come back earlier in play than here.
-void Replay(int kept) {
-    ResetGame();
-    for (int k = 1; k <= kept; ++k) {
-        const bool fits = ActionFits(PlayedFrom[k], PlayedTo[k]);
-        ApplyMoveQuiet(fits ? PlayedFrom[k] : NoSquare, fits ? PlayedTo[k] : NoSquare);
-        CountEntry();
-    }
-}
-
 }  // namespace
 
 bool IsRecordFull() { return Pos.MoveCount > MaxEntries; }
@@ -73,10 +62,13 @@ void WriteEntry(int from, int to) {
 
 void CountEntry() { ++Pos.MoveCount; }
 
-void TakeLoadedGame() {
-    LoadedStart = CurrentStart();
-    BranchMark = 0;
+void ReplayEntry(int from, int to) {
+    const bool fits = ActionFits(from, to);
+    ApplyMoveQuiet(fits ? from : NoSquare, fits ? to : NoSquare);
+    CountEntry();
 }
+
+void TakeLoadedGame() { LoadedStart = CurrentStart(); }
 
 void ShowForward(bool visible) {
     ForwardVisible = visible;
@@ -91,6 +83,7 @@ void ShowBackward(bool visible) {
 void NewGameCommand() {
     if (IsThinking) return;
     ResetGame();
+    BranchMark = 0;
     View->PlacePieces();
     ShowBackward(false);
     ShowForward(false);
@@ -109,13 +102,14 @@ void BeginLoadedGame() {
 void StepBack() {
     if (IsThinking) return;
     const int kept = std::max(Pos.MoveCount - 2, 0);
-    Replay(kept);
+    ResetGame();
+    for (int k = 1; k <= kept; ++k) ReplayEntry(PlayedFrom[k], PlayedTo[k]);
     ShowStatus(BlankText);
     View->PlacePieces();
     if (kept == 0) ShowBackward(false);
-    const bool leftHere = kept == BranchMark - 1;
-    const bool endedHere = BranchMark == 0 && kept == LoadedCount - 1;
-    if ((leftHere || endedHere) && IsOnLoadedLine(kept)) ShowForward(true);
+    // Without a branch only the end of the loaded game hides the button.
+    const bool mayShow = BranchMark == 0 ? kept == LoadedCount - 1 : kept < BranchMark;
+    if (mayShow && IsOnLoadedLine(kept)) ShowForward(true);
 }
 
 void StepForward() {

@@ -36,6 +36,10 @@ void WriteEntry(int from, int to);
 /// Counts the entry just written.
 void CountEntry();
 
+/// Plays an entry again without showing it, and counts it. One that does not fit only passes the
+/// turn: pieces set up outside may have come back earlier in play than they do here.
+void ReplayEntry(int from, int to);
+
 /// Takes the start tables in force and the loaded record as one game, from its start: stepping back
 /// offers btn_Forward again where the game played agrees with it.
 void TakeLoadedGame();
@@ -49,7 +53,8 @@ void ShowBackward(bool visible);
 
 // ---- Commands ----
 
-/// Starts the game again from its start position, both buttons hidden. The records stay.
+/// Starts the game again from its start position, both buttons hidden and no branch pending. The
+/// records stay.
 void NewGameCommand();
 
 /// Starts a game in a window just built: a new game at the lowest strength.

@@ -28,19 +28,12 @@ Course Extended(const Course& course, const RecordedEntry& entry, Manner manner)
     Pos = course.back();
     if (manner == Manner::Shown) {
         ApplyMoveShown(entry.From, entry.To);
+        CountEntry();
     } else {
-        ApplyMoveQuiet(entry.From, entry.To);
+        ReplayEntry(entry.From, entry.To);
     }
-    CountEntry();
     longer.push_back(Pos);
     return longer;
-}
-
-/// As StepBack plays again: an entry that does not fit only passes the turn.
-void Replay(Course& course, RecordedEntry entry) {
-    Pos = course.back();
-    if (!ActionFits(entry.From, entry.To)) entry.From = entry.To = NoSquare;
-    course = Extended(course, entry, Manner::Quiet);
 }
 
 void AddNew(std::vector<Course>& courses, Course course) {
@@ -71,7 +64,7 @@ public:
             if (isPlacement) AddNew(next, Extended(course, entry, Manner::Quiet));
         }
         if (next.empty()) return cause;
-        Replay(Replayed, entry);
+        Replayed = Extended(Replayed, entry, Manner::Quiet);
         AddNew(next, Replayed);
         Courses = std::move(next);
         return {};
