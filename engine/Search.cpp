@@ -1,6 +1,7 @@
 #include "engine/Search.h"
 
 #include "core/Position.h"
+#include "core/QuietMove.h"
 #include "engine/Beam.h"
 #include "engine/Candidates.h"
 #include "engine/Random.h"
@@ -100,14 +101,17 @@ void SearchRoot(Int16 depth) {
     ValueRow(row, best);
 }
 
-/// The best of row 1. Each candidate that reaches the best so far tosses a coin, the first one to
-/// do so included, so the last of k equals is taken with probability 1/2, the one before with 1/4.
-Int16 SelectFromRoot() {
+bool MayBeAny(MoveCode /*code*/) { return true; }
+
+/// The best of row 1 that is allowed, or 0. Each candidate that reaches the best so far tosses a
+/// coin, the first one to do so included, so the last of k equals is taken with probability 1/2,
+/// the one before with 1/4.
+Int16 SelectFromRoot(bool (*isAllowed)(MoveCode)) {
     double best = -10000000.0;
     int chosen = 0;
     for (int n = 1; n <= CandidateCount[SearchPly]; ++n) {
         const double value = MoveScores[SearchPly][n];
-        if (value < best) continue;
+        if (value < best || !isAllowed(MoveList[SearchPly][n])) continue;
         const bool isBetter = value > best;
         best = value;
         const bool wonToss = RandomBelow(2) == 1;
@@ -122,7 +126,11 @@ Int16 ChooseCandidate(Int16 depth) {
     SearchedPositions = 1;
     GenerateMoves(SearchPly);
     if (depth > 1) SearchRoot(depth);
-    return SelectFromRoot();
+    return SelectFromRoot(MayBeAny);
 }
+
+bool CanBePlayed(MoveCode code) { return ActionFits(OriginOf(code), DestinationOf(code)); }
+
+Int16 ChoosePlayable() { return SelectFromRoot(CanBePlayed); }
 
 }  // namespace brastel

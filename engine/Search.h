@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Numbers.h"
+#include "engine/MoveCode.h"
 
 namespace brastel {
 
@@ -21,5 +21,13 @@ extern std::uint64_t SearchedPositions;
 /// ties are broken by RandomBelow; how many numbers are drawn before the first of the best depends
 /// on the bounds. The position is the same after the call.
 Int16 ChooseCandidate(Int16 depth);
+
+/// False for a goal entry onto an opponent who waits in the goal: a candidate that counts as a win
+/// and yet would push the opponent off the board.
+bool CanBePlayed(MoveCode code);
+
+/// Chooses as ChooseCandidate does, by the values that stand in row 1, but only among the
+/// candidates that can be played. 0 when there is none.
+Int16 ChoosePlayable();
 
 }  // namespace brastel

@@ -20,13 +20,12 @@ struct Action {
     Int16 Destination;
 };
 
-/// What a chosen code stands for where it can be played: a goal entry onto an opponent waiting in
-/// the goal cannot, and becomes a pass.
-Action ActionOf(MoveCode code) {
-    const Action action{OriginOf(code), DestinationOf(code)};
-    const bool isWithoutPlacement = !BothRingsPlaced() && action.Origin == NoSquare;
+/// What the side plays when this candidate of row 1 was chosen; index 0 stands for none.
+Action ActionOf(Int16 chosen) {
+    const bool isWithoutPlacement = !BothRingsPlaced() && chosen == 0;
     if (isWithoutPlacement) return {SquareOf({Pos.SideToMove, 1}), 0};
-    return ActionFits(action.Origin, action.Destination) ? action : Action{0, 0};
+    const Int16 index = CanBePlayed(MoveList[1][chosen]) ? chosen : ChoosePlayable();
+    return {OriginOf(MoveList[1][index]), DestinationOf(MoveList[1][index])};
 }
 
 bool IsComputersTurn() {
@@ -57,7 +56,7 @@ bool PlayChosenMove(Int16 depth) {
     if (IsRecordFull()) return false;
     const Int16 index = ChooseMove(depth);
     if (View->IsClosing()) return false;
-    const Action action = ActionOf(MoveList[1][index]);
+    const Action action = ActionOf(index);
     if (!ActionFits(action.Origin, action.Destination)) {
         ShowStatus(BlankText);
         return false;

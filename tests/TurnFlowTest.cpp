@@ -1,3 +1,4 @@
+#include "engine/Random.h"
 #include "play/TurnFlow.h"
 #include "tests/GameTest.h"
 
@@ -15,9 +16,6 @@ TEST_F(TurnFlowTest, Scenarios) {
          {"the computer has only corner pieces: it passes", "R68 r60 b1 b8",
           "level1 68-61 => 4 Red Back"},
          {"people pass with the hint", "r1 B44 b45", "hint => 3 Blue Back"},
-         // Applied as a hit, the entry into the goal would push the waiting piece off the board.
-         {"an opponent waits where a carrier would enter: it passes", "B102 b101 r109 r94 r60",
-          "hint => 3 Red Back"},
          {"without a list piece 1 gets the ring", "",
           "layout6 +70 +60 +50 R3 +30 B1 new level1 hint => 2 Red Back; 60-52 => 4 Red Back"},
          {"a win ends it for the computer", "r60 b69 B93 R54",
@@ -29,6 +27,18 @@ TEST_F(TurnFlowTest, Scenarios) {
           "level1 entry200 68-59 => 200 Blue Back; "
           "offer 44-43 44-53 hint => 200 Blue Back Forward"}});
     EXPECT_EQ(Window.Beeps, 2 + 3);
+}
+
+/// The entry into the goal would push the opponent who waits there off the board. The computer
+/// passed instead, in half of its choices, although another move won at once.
+TEST_F(TurnFlowTest, AnOpponentInTheGoalIsNoReasonToPass) {
+    for (unsigned seed = 1; seed <= 8; ++seed) {
+        Place("B100 b40 b93 r99 r31 r109");
+        SeedRandom(seed);
+        Follow("hint => 3 Red Back Blue Wins!");
+    }
+    Run({{"no other wins", "B102 b101 r109 r94 r60", "hint => 3 Red Back"}});
+    EXPECT_NE(PlayedFrom[3], NoSquare);
 }
 
 /// Events are handled in the middle of the computer's move: what the user does then would change

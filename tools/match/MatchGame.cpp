@@ -1,11 +1,11 @@
 #include "tools/match/MatchGame.h"
 
 #include "core/Opening.h"
-#include "core/QuietMove.h"
 #include "core/StartPosition.h"
 #include "core/WinTest.h"
 #include "engine/Candidates.h"
 #include "engine/Random.h"
+#include "engine/Search.h"
 #include "play/DisplayedMove.h"
 #include "play/GameState.h"
 #include "play/GameView.h"
@@ -53,12 +53,12 @@ void PlaceRandomRing(std::mt19937& dice, int pieces) {
     DoubleClickPiece({Pos.SideToMove, ToInt16(receiver)});
 }
 
-/// Without a candidate the side passes, as it does when it chooses.
+/// Without a candidate that can be played the side passes, as it does when it chooses.
 void PlayRandomMove(std::mt19937& dice) {
     const int count = CandidateCount[1];
-    const MoveCode code = MoveList[1][count == 0 ? 0 : 1 + Draw(dice, count)];
-    const bool fits = ActionFits(OriginOf(code), DestinationOf(code));
-    ApplyMoveShown(fits ? OriginOf(code) : NoSquare, fits ? DestinationOf(code) : NoSquare);
+    const int drawn = count == 0 ? 0 : 1 + Draw(dice, count);
+    const MoveCode code = MoveList[1][CanBePlayed(MoveList[1][drawn]) ? drawn : ChoosePlayable()];
+    ApplyMoveShown(OriginOf(code), DestinationOf(code));
     CountEntry();
     CheckWin();
 }

@@ -2,6 +2,7 @@
 
 #include "core/Consistency.h"
 #include "core/PiecesOutside.h"
+#include "engine/Search.h"
 #include "play/DisplayedMove.h"
 #include "play/HumanAction.h"
 #include "tests/RandomPlay.h"
@@ -38,15 +39,11 @@ void CountKind(const Action& entry) {
     if (IsRingSquare(to)) Count(Captures);
 }
 
-/// Only a side without a candidate passes, or one that chose a goal entry that is barred.
+/// Only a side without a candidate that can be played passes.
 void CheckPassing(const Action& entry) {
     if (!BothRingsPlaced() || entry.first != NoSquare) return;
     GenerateMoves(1);
-    bool mayPass = CandidateCount[1] == 0;
-    for (int n = 1; n <= CandidateCount[1]; ++n) {
-        mayPass |= !ActionFits(OriginOf(MoveList[1][n]), DestinationOf(MoveList[1][n]));
-    }
-    Require(mayPass, "a side passed that could move");
+    Require(ChoosePlayable() == 0, "a side passed that could move");
 }
 
 // ---- Three ways to play an entry, from the same position ----
