@@ -24,6 +24,8 @@ public:
     virtual void ShowMessage(std::string_view /*text*/) {}
     virtual void ShowTurn(Int16 /*side*/) {}
     virtual void Beep() {}
+    /// Why an action of the user was refused, for those who hear the game; nothing to be seen.
+    virtual void TellRefusal(std::string_view /*why*/) {}
 
     // ---- Buttons ----
     virtual void ShowForward(bool /*visible*/) {}

@@ -4,12 +4,12 @@
 #include "core/Hit.h"
 #include "core/Opening.h"
 #include "core/PiecesOutside.h"
-#include "core/PlainMove.h"
-#include "core/RingPass.h"
+#include "core/QuietMove.h"
 #include "play/DisplayedMove.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/GameView.h"
+#include "play/Refusal.h"
 #include "play/TurnFlow.h"
 
 namespace brastel {
@@ -50,56 +50,38 @@ void FinishHumanAction(int from, int to) {
     RefreshCandidates();
 }
 
-bool TryPlainMove(Piece piece, int from, int to) {
-    if (!CheckPlainMove(from, to)) return false;
-    ApplyPlainMove(piece, to);
-    return true;
+/// The button is as it was, and the view tells why nothing happened.
+void Refuse(std::string_view why) {
+    RestoreForward();
+    View->TellRefusal(why);
 }
 
-bool TryHit(Piece hitter, Piece target) {
-    const HitVerdict verdict = CheckHit(hitter, target);
-    if (verdict == HitVerdict::PushBack) ShowStatus(PushBackText);
-    if (verdict != HitVerdict::Accepted) return false;
-    ApplyHit(hitter, target);
-    return true;
-}
-
-bool TryRingPass(Piece passer, Piece receiver) {
-    if (!CheckRingPass(passer, receiver)) return false;
-    ApplyRingPass(passer, receiver);
-    return true;
-}
-
-/// A friendly target can only be passed to, an opponent only be hit.
-bool TryAct(Piece dragged, Piece target) {
-    return target.Side == Pos.SideToMove ? TryRingPass(dragged, target) : TryHit(dragged, target);
+/// A move, hit or ring pass.
+void TakeAction(int from, int to) {
+    if (IsThinking || from == to) return;
+    BeginAction();
+    if (IsRecordFull() || !IsAccepted(from, to)) {
+        const bool isPushBack = CheckHit(PieceOn(from), PieceOn(to)) == HitVerdict::PushBack;
+        if (isPushBack && !IsRecordFull()) ShowStatus(PushBackText);
+        return Refuse(WhyRefused(from, to));
+    }
+    ApplyAction(from, to);
+    FinishHumanAction(from, to);
 }
 
 }  // namespace
 
 void DropOnBoard(Piece dragged, int x, int y) {
-    if (IsThinking || !BothRingsPlaced() || !IsBoardPoint(x, y)) return;
-    const int from = SquareOf(dragged);
-    const int to = SquareFromPoint(SnapX(x), SnapY(y));
-    BeginAction();
-    if (IsRecordFull() || !TryPlainMove(dragged, from, to)) return RestoreForward();
-    FinishHumanAction(from, to);
+    TakeAction(SquareOf(dragged), IsBoardPoint(x, y) ? SquareFromPoint(x, y) : NoSquare);
 }
 
-void DropOnPiece(Piece dragged, Piece target) {
-    if (IsThinking || !BothRingsPlaced()) return;
-    const int from = SquareOf(dragged);
-    const int to = SquareOf(target);
-    BeginAction();
-    if (IsRecordFull() || !TryAct(dragged, target)) return RestoreForward();
-    FinishHumanAction(from, to);
-}
+void DropOnPiece(Piece dragged, Piece target) { TakeAction(SquareOf(dragged), SquareOf(target)); }
 
 void DoubleClickPiece(Piece piece) {
     if (IsThinking) return;
     const bool endsSetup = InFreeSetup();
     BeginAction();
-    if (!PlaceRing(piece)) return RestoreForward();
+    if (!PlaceRing(piece)) return Refuse(WhyRingRefused(SquareOf(piece)));
     View->PlacePieces();
     EnterAction(SquareOf(piece), 0);
     if (endsSetup) return RestoreForward();

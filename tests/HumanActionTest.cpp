@@ -27,6 +27,23 @@ TEST_F(HumanActionTest, Scenarios) {
     EXPECT_EQ(Window.Searches, 0);
 }
 
+/// Each refusal is told, but not that a piece was put back where it was.
+TEST_F(HumanActionTest, RefusalsAreExplained) {
+    const std::vector<std::pair<const char*, const char*>> cases{
+        {"68-60", "the rings must be placed first"},
+        {"B3", "the piece belongs to the other side"},
+        {"R3 B3 71-71", ""},
+        {"71-39", "the way is blocked"},
+        {"R3", "both rings are placed already"},
+        {"entry201 71-63", "the record is full"}};
+    for (const auto& [script, why] : cases) {
+        Window.Refusal.clear();
+        std::istringstream commands(script);
+        for (std::string command; commands >> command;) Do(command);
+        EXPECT_EQ(Window.Refusal, why) << script;
+    }
+}
+
 TEST_F(HumanActionTest, PointsOffTheBoardAndPiecesThatAreNotThere) {
     Place("r58 b52");
     const Position before = Pos;

@@ -19,6 +19,7 @@ public:
     Position Drawn;
     int Drawings = 0;
     std::string Message;
+    std::string Refusal;
     Int16 Turn = Empty;
     int Beeps = 0;
     int Searches = 0;
@@ -40,6 +41,7 @@ public:
     }
     void ShowTurn(Int16 side) override { Turn = side; }
     void Beep() override { ++Beeps; }
+    void TellRefusal(std::string_view why) override { Refusal = why; }
     void ShowForward(bool visible) override { Forward = visible; }
     void ShowBackward(bool visible) override { Backward = visible; }
     void ShowBusy(bool busy) override { BusyDepth += busy ? 1 : -1; }

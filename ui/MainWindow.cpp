@@ -219,6 +219,10 @@ void MainWindow::ShowTurn(Int16 side) {
 
 void MainWindow::Beep() { QApplication::beep(); }
 
+void MainWindow::TellRefusal(std::string_view why) {
+    Voice->Say(QString::fromUtf8(why.data(), static_cast<qsizetype>(why.size())));
+}
+
 void MainWindow::ShowForward(bool visible) { ShowStepButton(*btn_Forward, visible); }
 
 void MainWindow::ShowBackward(bool visible) { ShowStepButton(*btn_Backward, visible); }

@@ -11,7 +11,7 @@ namespace brastel {
 /// A ring may be placed as the game would have it: with one of the side's pieces 1 to 8, with the
 /// piece that the start table names (a free setup wrote it there), or where the computer's list has
 /// it. Nobody reads the second number of a placement. The turn may be passed by a side without a
-/// candidate, or by one that might have chosen a goal entry that is barred.
+/// candidate that can be played.
 std::string_view BrokenRule(int from, int to);
 
 }  // namespace brastel
