@@ -68,7 +68,10 @@ void ReplayEntry(int from, int to) {
     CountEntry();
 }
 
-void TakeLoadedGame() { LoadedStart = CurrentStart(); }
+void TakeLoadedGame() {
+    LoadedStart = CurrentStart();
+    BranchMark = 0;
+}
 
 void ShowForward(bool visible) {
     ForwardVisible = visible;

@@ -6,8 +6,8 @@
 /// changes nothing, and everything is ignored while the computer thinks.
 namespace brastel {
 
-/// A dragged piece is dropped on an empty spot: a plain move to the square under the point. A point
-/// off the board does nothing.
+/// A dragged piece is dropped at a point where no piece lies: a plain move to the square under the
+/// point. A point off the board is refused.
 void DropOnBoard(Piece dragged, int x, int y);
 
 /// A dragged piece is dropped on another (or on itself): a hit, or a ring pass.

@@ -71,6 +71,7 @@ void DropOnSquare(int from, int to) {
 }
 
 void DropAt(Piece dragged, int x, int y) {
+    if (const Piece target = PieceOn(SquareUnder(x, y))) return DropOn(dragged, target);
     DoIf(CheckPlainMove(SquareOf(dragged), SquareUnder(x, y)), [=] { DropOnBoard(dragged, x, y); });
 }
 
