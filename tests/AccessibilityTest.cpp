@@ -161,7 +161,8 @@ TEST_F(AccessibilityTest, MovesAndMessagesAreReadOut) {
               "Red piece 2 from row 8, column 5 to row 7, column 5, pushes Blue piece 2 to row 5, "
               "column 5");
     Drag(37, 53);
-    EXPECT_EQ(ReadOut(), "You Cant't Push Back");
+    EXPECT_EQ(ReadOut(),
+              "You Cant't Push Back. the piece that has just hit this one cannot be pushed back");
     ClickButton("btn_Backward");
     EXPECT_TRUE(ReadOut().starts_with("Taken back: ")) << "not told as a move";
     ChooseFromMenu("mnu_Options", "mnu_NewGame");
@@ -178,7 +179,7 @@ TEST_F(AccessibilityTest, WhatIsRefusedIsReadOut) {
     PressSquare(58);
     EXPECT_EQ(ReadOut(), "nothing here");
     Do(66, "Give ring");
-    EXPECT_EQ(ReadOut(), "the ring is not given");
+    EXPECT_EQ(ReadOut(), "both rings are placed already");
 }
 
 TEST_F(AccessibilityTest, TheComputersAnswerIsReadOut) {
@@ -234,7 +235,7 @@ TEST_F(AccessibilityTest, SquaresCanBePressed) {
     PressSquare(42);
     Forget();
     PressSquare(112);
-    EXPECT_EQ(ReadOut(), "Blue piece 1 stays");
+    EXPECT_EQ(ReadOut(), "pieces do not leave the field by themselves. Blue piece 1 stays");
     EXPECT_EQ(Pos.MoveCount, 4);
 }
 

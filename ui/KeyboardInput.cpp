@@ -156,7 +156,7 @@ void KeyboardInput::DoubleClick() {
     LetGo();
     const Piece piece = PieceOn(Marks.Focus);
     if (!piece) return emit Told("nothing here");
-    Try([&] { emit Piece_DblClick(piece); }, "the ring is not given");
+    emit Piece_DblClick(piece);
 }
 
 void KeyboardInput::LetGo() {
