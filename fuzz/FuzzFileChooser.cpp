@@ -5,13 +5,15 @@
 #include "files/GameFile.h"
 #include "fuzz/FuzzGame.h"
 #include "fuzz/FuzzTarget.h"
-#include "fuzz/OwnRoot.h"
 #include "play/GameRecord.h"
+#include "tools/sandbox/Sandbox.h"
 
 #include <algorithm>
+#include <fcntl.h>
 #include <filesystem>
 #include <fstream>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace brastel {
 namespace {
@@ -21,7 +23,6 @@ namespace fs = std::filesystem;
 constexpr int MostEntries = 12;
 constexpr int MostCommands = 40;
 
-OwnRoot Root;
 ShownGame Game;
 
 /// The answer to the question whether to overwrite comes from the input, too.
@@ -132,6 +133,19 @@ void UseDialog(FuzzInput& input) {
     }
 }
 
+/// A folder of the sandbox, emptied, becomes the root of all paths while the input is used.
+void UseDialogInOwnRoot(FuzzInput& input) {
+    static const int realRoot = open("/", O_PATH | O_DIRECTORY | O_CLOEXEC);
+    const fs::path before = fs::current_path();
+    const fs::path root = fs::temp_directory_path() / "root";
+    fs::remove_all(root);
+    fs::create_directory(root);
+    Require(chroot(root.c_str()) == 0 && chdir("/") == 0, "the root cannot be changed");
+    UseDialog(input);
+    Require(fchdir(realRoot) == 0 && chroot(".") == 0, "the way back is lost");
+    fs::current_path(before);
+}
+
 [[noreturn]] void Skip() {
     constexpr int Skipped = 77;
     std::puts("Skipped: this system does not let a process have a root of its own.");
@@ -145,13 +159,11 @@ void UseDialog(FuzzInput& input) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brastel;
-    if (!Root.CanEnter()) Skip();
+    if (!EnterSandbox()) Skip();
     StartProgram(Game, Files);
     Files.OpenMainWindow();
     ForgetVisits();
     FuzzInput input(data, size);
-    Root.Enter();
-    UseDialog(input);
-    Root.Leave();
+    UseDialogInOwnRoot(input);
     return 0;
 }

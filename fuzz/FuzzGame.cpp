@@ -6,6 +6,7 @@
 #include "fuzz/FuzzTarget.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "tools/sandbox/Sandbox.h"
 
 #include <sys/mman.h>
 #include <unistd.h>
@@ -63,3 +64,9 @@ bool LoadFrom(const MemoryFile& file, ShownFiles& files) {
 }
 
 }  // namespace brastel
+
+int LLVMFuzzerInitialize(int* /*count*/, char*** /*words*/) {
+    constexpr bool KeepsRights = true;  // a user's, to have a root of his own
+    brastel::EnterSandbox(KeepsRights);
+    return 0;
+}

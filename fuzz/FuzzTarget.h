@@ -12,6 +12,8 @@
 /// A target judges every input by itself, so it first puts everything back that an earlier input
 /// may have changed.
 extern "C" int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size);
+/// Called once before the first input.
+extern "C" int LLVMFuzzerInitialize(int* count, char*** words);
 
 namespace brastel {
 

@@ -31,6 +31,7 @@ void Replay(const fs::path& path) {
 }  // namespace
 
 int main(int count, char** paths) {
+    LLVMFuzzerInitialize(&count, &paths);
     std::size_t replayed = 0;
     for (int i = 1; i < count; ++i) {
         for (const fs::path& path : FilesAt(paths[i])) {

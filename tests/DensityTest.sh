@@ -1,10 +1,9 @@
 #!/usr/bin/env bash
 # Drags a piece about at the usual densities of screens: its outline must leave nothing behind.
-# Arguments: the game program, and a folder for screenshots, if wanted.
+# Argument: the game program.
 set -euo pipefail
 
 Game=$(realpath "$1")
-Pictures=${2:+$(realpath "$2")}
 . "$(dirname "$0")/VirtualDisplay.sh"
 start_display 3000x2600
 
@@ -31,7 +30,7 @@ pointer_at() {
     }' | tr '\n' ' '
 }
 do_at() {
-    # shellcheck disable=SC2046
+    # shellcheck disable=SC2046  # one word, one argument
     xdotool $(echo "$1" "$2" | pointer_at) "${@:3}"
 }
 click() { do_at "$1" "$2" click 1 sleep 0.1; }
@@ -51,7 +50,7 @@ set_up() {
 # Over lines, pieces, circles, text and buttons, and over each fraction of a pixel.
 drag_about() {
     do_at 163 357 mousedown 1
-    # shellcheck disable=SC2046
+    # shellcheck disable=SC2046  # one word, one argument
     xdotool $(for ((n = 0; n < 90; n++)); do
         echo "$((163 + n * 7)).$((n % 10)) $((347 + (n * 37) % 211 - 60)).$((n * 3 % 10))"
     done | pointer_at)
@@ -71,7 +70,7 @@ for Ratio in 1 1.25 1.5 2 3; do
     look before
     drag_about
     look after
-    [ -z "$Pictures" ] || cp ./*.png "$Pictures"
+    keep ./*.png
     [ "$(differing before dragging)" != 0 ] || fail "at ratio $Ratio no outline is seen"
     stale=$(differing before after)
     [ "$stale" = 0 ] || fail "at ratio $Ratio $stale pixels are left behind"

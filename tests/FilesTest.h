@@ -9,6 +9,7 @@
 #include <filesystem>
 #include <fstream>
 #include <iterator>
+#include <stdexcept>
 
 namespace brastel {
 
@@ -33,7 +34,8 @@ public:
 
     FileDesk() {
         std::string name = fs::temp_directory_path() / "brastel-XXXXXX";
-        Folder = fs::canonical(mkdtemp(name.data()));
+        if (mkdtemp(name.data()) == nullptr) throw std::runtime_error("no folder to work in");
+        Folder = fs::canonical(name);
         fs::current_path(Folder);
         SetFileView(this);
         LoadedFileName.clear();

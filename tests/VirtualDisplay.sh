@@ -1,3 +1,4 @@
+# shellcheck shell=bash
 # A display of its own for a test with a real window, in a scratch folder; to be sourced by bash. All
 # that is put into Started ends with the test.
 
@@ -5,9 +6,12 @@
 Started=()
 trap 'kill "${Started[@]}" 2>/dev/null || true; remove_folder' EXIT
 
+# Copies pictures to where they stay after the test, if it has been told a folder for them.
+keep() { [ -z "${BRASTEL_WRITABLE:-}" ] || cp "$@" "$BRASTEL_WRITABLE"; }
+
 fail() {
-    echo "FAILED: $*" >&2
-    import -window root "${TMPDIR:-/tmp}/brastel-failed.png" || true
+    echo "FAILED: $*; screenshot: ${BRASTEL_WRITABLE:-none}" >&2
+    import -window root failed.png && keep failed.png
     exit 1
 }
 

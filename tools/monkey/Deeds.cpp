@@ -7,7 +7,6 @@
 #include "tools/monkey/Aims.h"
 #include "tools/monkey/EventLog.h"
 #include "tools/monkey/Hands.h"
-#include "tools/monkey/ScratchFolder.h"
 
 #include <QApplication>
 #include <QLineEdit>
@@ -38,7 +37,7 @@ const char* const Menus[] = {
 
 constexpr int MenuKeys[] = {Qt::Key_O, Qt::Key_L, Qt::Key_L, Qt::Key_H};
 
-/// In the scratch folder.
+/// In their folder, or to be made there.
 const QString Games[] = {
     "03-example.txt", "06-passes.txt", "200-entries.txt", "01-free-setup-red-ready.txt",
     "06-free-setup-uneven.txt", "unter/06-thirteen-red.txt", "unter/04-image.txt",
@@ -76,7 +75,7 @@ Plan Type(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {
 }
 
 Plan TypeName(const QWidget& box) {
-    const QString folder = QString::fromStdString(ScratchFolder) + "/";
+    const QString folder = QString::fromStdString(GamesFolder) + "/";
     const QString name = OneIn(2) ? folder + AnyOf(Games) : AnyOf(OddNames);
     return Clicks(MiddleOf(box), 1, Qt::LeftButton) + Type(Qt::Key_A, Qt::ControlModifier) +
            Plan{[=] { Commit(name); }} + Type(Qt::Key_Return);
@@ -201,6 +200,17 @@ constexpr Deed Deeds[] = {
 };
 
 }  // namespace
+
+void MakeGames() {
+    namespace fs = std::filesystem;
+    const fs::path from = BRASTEL_TEST_DATA;
+    fs::create_directories(GamesFolder / "unter" / "tief");
+    for (const auto* name : {"03-example.txt", "06-passes.txt", "200-entries.txt",
+                             "01-free-setup-red-ready.txt", "06-free-setup-uneven.txt"}) {
+        fs::copy(from / "good" / name, GamesFolder);
+    }
+    fs::copy(from / "damaged", GamesFolder / "unter");
+}
 
 Plan operator+(Plan first, const Plan& then) {
     first.insert(first.end(), then.begin(), then.end());

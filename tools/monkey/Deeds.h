@@ -2,6 +2,7 @@
 
 #include <QPoint>
 
+#include <filesystem>
 #include <functional>
 #include <vector>
 
@@ -13,6 +14,12 @@ namespace brastel {
 /// A single event, decided at the moment at which it is due.
 using Step = std::function<void()>;
 using Plan = std::vector<Step>;
+
+/// Where the games lie that are loaded by their names: a folder of the sandbox.
+inline const std::filesystem::path GamesFolder = "/tmp/games";
+
+/// Makes the folder, with folders and good and damaged games in it.
+void MakeGames();
 
 Plan operator+(Plan first, const Plan& then);
 

@@ -5,7 +5,6 @@
 #include "play/GameState.h"
 #include "tests/ShownPosition.h"
 #include "tools/monkey/Aims.h"
-#include "tools/monkey/ScratchFolder.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -49,7 +48,6 @@ QImage Screenshot() {
 
 void Expect(bool isRight, const std::string& otherwise) {
     if (isRight) return;
-    RemoveScratchFolder();
     std::cerr << "FAILED: " << otherwise << std::endl;
     std::_Exit(EXIT_FAILURE);
 }

@@ -1,8 +1,9 @@
 /// A monkey at the mouse and the keyboard of the real window.
 
 #include "tools/ReadNumber.h"
+#include "tools/monkey/Deeds.h"
 #include "tools/monkey/Monkey.h"
-#include "tools/monkey/ScratchFolder.h"
+#include "tools/sandbox/Sandbox.h"
 
 #include <QApplication>
 
@@ -16,16 +17,13 @@ constexpr std::string_view Usage =
     "Usage: window_monkey EVENTS [SEED]\n"
     "Random events on the real window, offscreen, which must neither crash nor hang nor show\n"
     "anything but the position. The same seed, 1 by default, gives the same events; they are\n"
-    "printed as they come. Status 1 after a failure, SIGALRM after a minute without an event.\n";
+    "printed as they come. Status 1 after a failure, 77 where there can be no sandbox, SIGALRM "
+    "after\n"
+    "a minute without an event.\n";
 constexpr std::int64_t Plenty = 1'000'000'000;
 
-/// Nothing of the user's is read, and nothing but the scratch folder is written.
 void PrepareEnvironment() {
     qputenv("QT_QPA_PLATFORM", "offscreen");
-    for (const char* name :
-         {"HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME", "XDG_RUNTIME_DIR"}) {
-        qputenv(name, QByteArray::fromStdString(ScratchFolder));
-    }
     for (const char* name : {"QT_STYLE_OVERRIDE", "QT_SCALE_FACTOR"}) qunsetenv(name);
 }
 
@@ -48,12 +46,16 @@ int main(int count, char** texts) {
         std::cerr << Usage;
         return 2;
     }
-    MakeScratchFolder();
+    if (!EnterSandbox()) {
+        std::cerr << "Nothing was done: the monkey saves anywhere, and there can be no sandbox.\n";
+        return 77;
+    }
+    MakeGames();
+    std::filesystem::current_path(GamesFolder);
     PrepareEnvironment();
     qInstallMessageHandler(PrintMessage);
     int oneName = 1;
     const QApplication application(oneName, texts);
     QApplication::setQuitOnLastWindowClosed(false);
     PlayMonkey(static_cast<int>(*events), static_cast<unsigned>(*seed));
-    RemoveScratchFolder();
 }

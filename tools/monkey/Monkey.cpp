@@ -1,7 +1,6 @@
 #include "tools/monkey/Monkey.h"
 
 #include "engine/Random.h"
-#include "files/FileChooser.h"
 #include "play/GameState.h"
 #include "tools/Chance.h"
 #include "tools/monkey/Aims.h"
@@ -9,7 +8,6 @@
 #include "tools/monkey/EventLog.h"
 #include "tools/monkey/Hands.h"
 #include "tools/monkey/Looks.h"
-#include "tools/monkey/ScratchFolder.h"
 
 #include <QAction>
 #include <QApplication>
@@ -142,7 +140,7 @@ void CalmDown() {
     CalmingEvents = 0;
     LookAtRest();
     LookAtPicture();
-    std::filesystem::current_path(ScratchFolder);
+    std::filesystem::current_path(GamesFolder);
     Present = Mood::Careful;
     if (Level > TopLevel) return LowerLevel();
     if (Number >= LastEvent) return Close(GameWindow->windowHandle());
@@ -151,19 +149,7 @@ void CalmDown() {
 
 // ---- The course of things ----
 
-/// True while a confirmed name would be written outside the scratch folder.
-bool SaveLeadsOutside() {
-    const auto isFileDialog = [](const QWidget* widget) {
-        return widget->objectName() == "frmOpenSave" && widget->isVisible();
-    };
-    if (std::ranges::none_of(QApplication::topLevelWidgets(), isFileDialog)) return false;
-    if (Chooser.Mode != ChooserMode::Save) return false;
-    const std::filesystem::path folder = Chooser.Folder;
-    return !IsInScratchFolder(folder) || !IsInScratchFolder(folder / Chooser.NameBox.c_str());
-}
-
 void Act() {
-    if (SaveLeadsOutside()) Present = Mood::Calming;
     if (Present == Mood::Careful && !Ahead.empty()) return TakeStep();
     if (Present == Mood::Careful) Present = Mood::Wild;
     const bool mustCalm = Level > TopLevel || Number >= LastEvent;

@@ -1,0 +1,31 @@
+#!/usr/bin/env bash
+# What keeps the other tests from doing damage. Argument: the program in_sandbox.
+set -euo pipefail
+
+InSandbox=$(realpath "$1")
+Helper=$(realpath "$(dirname "$0")/ScratchFolder.sh")
+. "$(dirname "$0")/ScratchFolder.sh"
+
+fail() {
+    echo "FAILED: $*" >&2
+    exit 1
+}
+
+TMPDIR=$Folder/none bash -euc ". '$Helper'; true" 2>/dev/null &&
+    fail "a test goes on without a scratch folder"
+
+"$InSandbox" --required true || exit 77
+mkdir 'to keep'
+export BRASTEL_WRITABLE="$Folder/to keep"
+"$InSandbox" sh -c 'echo kept >"$BRASTEL_WRITABLE/file" && echo lost >/dev/null && echo lost >/tmp/file'
+[ "$(cat 'to keep/file')" = kept ] || fail "nothing can be kept"
+
+# only_at OPTION PLACE...: an option that all mounts of a sandbox have but these, in order.
+only_at() {
+    local found
+    found=$("$InSandbox" awk -v option="$1" '$6 !~ option {print $5}' /proc/self/mountinfo)
+    [ "$(sort <<<"$found")" = "$(printf '%s\n' "${@:2}")" ] ||
+        fail "no $1 at: $found"
+}
+only_at '^ro' /tmp "${Folder// /\\040}/to\\040keep"
+only_at nodev /dev/full /dev/null /dev/random /dev/urandom /dev/zero

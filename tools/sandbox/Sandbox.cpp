@@ -1,0 +1,135 @@
+#include "tools/sandbox/Sandbox.h"
+
+#include <array>
+#include <cstdint>
+#include <cstdio>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <fstream>
+#include <linux/capability.h>
+#include <sched.h>
+#include <string>
+#include <sys/mount.h>
+#include <sys/syscall.h>
+#include <unistd.h>
+#include <vector>
+
+namespace brastel {
+
+namespace {
+
+namespace fs = std::filesystem;
+
+constexpr const char* Mark = "BRASTEL_SANDBOX";
+constexpr const char* Temporary = "/tmp";
+constexpr const char* Home = "/tmp/home";
+constexpr std::uint64_t NoDevices = MOUNT_ATTR_NODEV;
+constexpr std::uint64_t ReadOnly = MOUNT_ATTR_RDONLY;
+
+/// A sandbox that is made by half is none.
+void Require(bool isDone, const char* what) {
+    if (isDone) return;
+    std::perror(what);
+    std::_Exit(125);
+}
+
+/// Mounts of this process alone. Users other than root need a user namespace for that, in which
+/// they stay who they are.
+bool HasOwnMounts() {
+    if (unshare(CLONE_NEWNS) == 0) return true;
+    const auto user = std::to_string(geteuid());
+    const auto group = std::to_string(getegid());
+    if (unshare(CLONE_NEWUSER | CLONE_NEWNS) != 0) return false;
+    std::ofstream("/proc/self/setgroups") << "deny";
+    std::ofstream("/proc/self/uid_map") << user + " " + user + " 1";
+    std::ofstream("/proc/self/gid_map") << group + " " + group + " 1";
+    return true;
+}
+
+/// For all mounts at and below a place, from which no change leads outside then.
+bool SetAttributes(int mounts, const char* path, std::uint64_t attributes) {
+    mount_attr change{};
+    change.attr_set = attributes;
+    change.propagation = MS_PRIVATE;
+    return mount_setattr(mounts, path, AT_EMPTY_PATH | AT_RECURSIVE, &change, sizeof change) == 0;
+}
+
+/// What would be hidden or forbidden, to be mounted again where it was.
+struct KeptPlace {
+    fs::path Path;
+    std::uint64_t Attributes;
+    int Mounts = -1;
+};
+
+std::vector<KeptPlace> PlacesToKeep() {
+    std::vector<KeptPlace> places{{BRASTEL_SOURCES, ReadOnly | NoDevices},
+                                  {BRASTEL_BUILD, ReadOnly | NoDevices}};
+    for (const auto* device : {"null", "zero", "full", "random", "urandom"}) {
+        places.push_back({fs::path("/dev") / device, ReadOnly});
+    }
+    const char* writable = std::getenv("BRASTEL_WRITABLE");
+    if (writable != nullptr) places.push_back({fs::absolute(writable), NoDevices});
+    for (KeptPlace& place : places) {
+        place.Mounts = open_tree(AT_FDCWD, place.Path.c_str(),
+                                 OPEN_TREE_CLONE | OPEN_TREE_CLOEXEC | AT_RECURSIVE);
+    }
+    return places;
+}
+
+void PutBack(const KeptPlace& place) {
+    const bool isMissing = place.Mounts < 0;
+    if (isMissing) return;
+    // The way there, if it leads through the temporary folder.
+    if (!fs::exists(place.Path)) fs::create_directories(place.Path);
+    Require(SetAttributes(place.Mounts, "", place.Attributes) &&
+                move_mount(place.Mounts, "", AT_FDCWD, place.Path.c_str(),
+                           MOVE_MOUNT_F_EMPTY_PATH) == 0,
+            place.Path.c_str());
+    close(place.Mounts);
+}
+
+void MakeTemporaryFolder() {
+    Require(mount("brastel", Temporary, "tmpfs", MS_NOSUID | MS_NODEV, "mode=1777,size=512m") == 0,
+            Temporary);
+    // An X server can make its folder only if root runs it.
+    fs::create_directory("/tmp/.X11-unix");
+    fs::permissions("/tmp/.X11-unix", fs::perms::all | fs::perms::sticky_bit);
+    fs::create_directory(Home);
+    fs::permissions(Home, fs::perms::owner_all);
+    setenv("TMPDIR", Temporary, 1);
+    for (const auto* name : {"HOME", "XDG_CACHE_HOME", "XDG_CONFIG_HOME", "XDG_DATA_HOME",
+                             "XDG_STATE_HOME", "XDG_RUNTIME_DIR"}) {
+        setenv(name, Home, 1);
+    }
+}
+
+/// False, and nothing is changed, where the kernel cannot make all mounts read-only.
+bool CloseOff() {
+    const fs::path folder = fs::current_path();
+    const std::vector<KeptPlace> places = PlacesToKeep();
+    if (!SetAttributes(AT_FDCWD, "/", ReadOnly | NoDevices)) return false;
+    MakeTemporaryFolder();
+    for (const KeptPlace& place : places) PutBack(place);
+    // The working folder, too, has to be the one that was put back.
+    if (chdir(folder.c_str()) != 0) Require(chdir(Temporary) == 0, Temporary);
+    return true;
+}
+
+void GiveUpRights() {
+    __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+    const std::array<__user_cap_data_struct, 2> none{};
+    Require(syscall(SYS_capset, &header, none.data()) == 0, "capset");
+}
+
+}  // namespace
+
+bool EnterSandbox(bool keepsRights) {
+    if (std::getenv(Mark) != nullptr) return true;
+    const bool isMade = HasOwnMounts() && CloseOff();
+    if (isMade) setenv(Mark, "1", 1);
+    if (geteuid() != 0 && !keepsRights) GiveUpRights();
+    return isMade;
+}
+
+}  // namespace brastel
