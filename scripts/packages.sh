@@ -1,4 +1,7 @@
+# shellcheck shell=bash
 # Debian packages that the scripts need; to be sourced by bash.
+# The lists are used there.
+# shellcheck disable=SC2034
 
 BuildPackages=(g++ cmake ninja-build qt6-base-dev)
 # Half-width katakana need a Japanese font.
@@ -6,7 +9,7 @@ FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
 TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-utils at-spi2-core
     dbus-daemon libglib2.0-bin python3-pyatspi)
-CheckPackages=(clang-format clang-tidy)
+CheckPackages=(clang-format clang-tidy shellcheck)
 # For the programs beside the game.
 ToolPackages=(libcli11-dev)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)

@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # The command line of brastel-match: what it refuses, what it writes and how it ends. Argument: the
 # program.
+# The names of the games are plain; arguments in one text are split.
+# shellcheck disable=SC2012
 set -euo pipefail
 
 Program=$(realpath "$1")

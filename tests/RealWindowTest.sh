@@ -54,7 +54,7 @@ readonly Red=FF07FF Blue=07FFFF Empty=C0C0C0
 
 "$Game" &
 GameProcess=$!
-Started+=($GameProcess)
+Started+=("$GameProcess")
 find_form
 [ "$(count_shown $Empty)" -eq 112 ] || fail "the first board is not empty"
 
@@ -101,7 +101,7 @@ xdotool type game
 xdotool key Return
 find_form
 [ "$(count_shown $Red) $(count_shown $Blue)" = '2 2' ] || fail "the loaded game is not shown"
-for entry in 1 2 3 4; do
+for _ in 1 2 3 4; do
     xdotool mousemove $((FormLeft + 790)) $((FormTop + 350)) click 1
     sleep 0.3
 done

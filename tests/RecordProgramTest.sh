@@ -1,6 +1,8 @@
 #!/usr/bin/env bash
 # brastel-record as people call it: statuses, where its words go, and files it must not touch.
 # Arguments: the program and the folder with the test files.
+# Words are compared with patterns.
+# shellcheck disable=SC2053
 set -euo pipefail
 
 Program=$(realpath "$1")

@@ -7,4 +7,4 @@ Folder=$(mktemp -d)
 readonly Folder
 remove_folder() { rm -rf "${Folder:?}"; }
 trap remove_folder EXIT
-cd "${Folder:?}"
+cd "${Folder:?}" || exit
