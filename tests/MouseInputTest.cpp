@@ -111,6 +111,19 @@ TEST_F(MouseInputTest, AnotherButtonDuringADragChangesNothing) {
     EXPECT_EQ(Pos.Board[67], Red);
 }
 
+/// Qt rounds this point to the corner of the next square.
+TEST_F(MouseInputTest, TheLastHalfPixelBelongsToItsSquare) {
+    const QPointF point = InWindow(Centre(69)) + QPointF(19.5, 19.5);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool isDown = type == QEvent::MouseButtonPress;
+        qt_handleMouseEvent(Window.windowHandle(), point, Window.windowHandle()->mapToGlobal(point),
+                            isDown ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type, {},
+                            ++QTest::lastMouseTimestamp);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Pos.Board[69], Red);
+}
+
 /// A double-click on an empty square places a piece with its first click; the second one hits that
 /// piece, but nobody meant to give it the ring. On a piece, the second release is no click.
 TEST_F(MouseInputTest, AFreeSetupIsClickedTogether) {

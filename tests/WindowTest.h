@@ -27,6 +27,7 @@ protected:
 
     // ---- Mouse; points are in view coordinates ----
     static QPoint Centre(int square);
+    QPoint InWindow(QPoint point) { return Form->mapTo(&Window, point); }
     void Press(QPoint point, Qt::MouseButton button = Qt::LeftButton);
     void Move(QPoint point);
     void Release(QPoint point, Qt::MouseButton button = Qt::LeftButton);
@@ -67,7 +68,6 @@ protected:
     QWidget* Form;
 
 private:
-    QPoint InWindow(QPoint point) { return Form->mapTo(&Window, point); }
     void PollDialogs();
 
     std::vector<Answer> Answers;

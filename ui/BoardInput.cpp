@@ -4,9 +4,16 @@
 
 namespace brastel {
 
-/// Rounding would push it over a square's edge.
-QPoint BoardInput::PixelOf(const QMouseEvent& event) {
-    return {qFloor(event.position().x()), qFloor(event.position().y())};
+BoardInput::BoardInput(BoardView* view) : QObject(view), Form(view) {
+    Form->installEventFilter(this);
+}
+
+/// Qt rounds the position in a widget, which can push it over the edge of a square. The position in
+/// the window is exact, but for the error of a division by the device pixel ratio.
+QPoint BoardInput::PixelOf(const QMouseEvent& event) const {
+    constexpr QPointF DivisionError(1e-6, 1e-6);
+    const QPointF point = Form->mapFrom(Form->window(), event.scenePosition() + DivisionError);
+    return {qFloor(point.x()), qFloor(point.y())};
 }
 
 void BoardInput::Drop(Piece dragged, QPoint point) {

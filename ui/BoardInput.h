@@ -8,12 +8,15 @@
 
 namespace brastel {
 
+class BoardView;
+
 /// What people do on the board, whatever they do it with. Points are in view coordinates.
 class BoardInput : public QObject {
     Q_OBJECT
 
 public:
-    using QObject::QObject;
+    /// Watches the view, which outlives this.
+    explicit BoardInput(BoardView* view);
 
 signals:
     /// A piece was dropped on the form, where no piece and no control lies.
@@ -27,9 +30,11 @@ signals:
 
 protected:
     /// The logical pixel that holds the pointer.
-    static QPoint PixelOf(const QMouseEvent& event);
+    QPoint PixelOf(const QMouseEvent& event) const;
     /// Drops the piece at a point of the form where no control lies.
     void Drop(Piece dragged, QPoint point);
+
+    BoardView* const Form;
 };
 
 }  // namespace brastel

@@ -50,9 +50,7 @@ QString PieceName(int square) { return QString::fromStdString(PieceInWords(Piece
 
 }  // namespace
 
-KeyboardInput::KeyboardInput(BoardView* view, MouseInput* mouse)
-    : BoardInput(view), Form(view), Mouse(mouse) {
-    Form->installEventFilter(this);
+KeyboardInput::KeyboardInput(BoardView* view, MouseInput* mouse) : BoardInput(view), Mouse(mouse) {
     FocusTimer.setSingleShot(true);
     FocusTimer.callOnTimeout(this, &KeyboardInput::TellFocus);
 }

@@ -22,8 +22,7 @@ class KeyboardInput : public BoardInput {
     Q_OBJECT
 
 public:
-    /// Watches the view, which outlives this. A key ends what the mouse has begun, and the other
-    /// way round.
+    /// A key ends what the mouse has begun, and the other way round.
     KeyboardInput(BoardView* view, MouseInput* mouse);
 
     int FocusSquare() const { return Marks.Focus; }
@@ -59,7 +58,6 @@ private:
     /// Makes a gesture, and tells if nothing came of it: who does not see the board would wait.
     void Try(const std::function<void()>& gesture, const QString& failure);
 
-    BoardView* const Form;
     MouseInput* const Mouse;
     KeyboardMarks Marks;
     QTimer FocusTimer;

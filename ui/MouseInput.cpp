@@ -37,9 +37,7 @@ bool IsFormPoint(const QWidget& form, QPoint point) {
 
 }  // namespace
 
-MouseInput::MouseInput(QWidget* view)
-    : BoardInput(view), Form(view), Outline(new DragOutline(view)) {
-    Form->installEventFilter(this);
+MouseInput::MouseInput(BoardView* view) : BoardInput(view), Outline(new DragOutline(view)) {
     // Moves without a button tell that a release went elsewhere.
     Form->setMouseTracking(true);
 }

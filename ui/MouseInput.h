@@ -13,8 +13,7 @@ class MouseInput : public BoardInput {
     Q_OBJECT
 
 public:
-    /// Watches the view, which outlives this.
-    explicit MouseInput(QWidget* view);
+    explicit MouseInput(BoardView* view);
 
     /// Ends whatever is under way without a drop or click.
     void Cancel();
@@ -32,7 +31,6 @@ private:
     void Release(const QMouseEvent& event);
     void ShowOutline(QPoint pointer);
 
-    QWidget* const Form;
     QWidget* const Outline;
     Gesture Current = Gesture::None;
     Qt::MouseButton Button = Qt::NoButton;
