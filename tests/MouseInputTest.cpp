@@ -111,6 +111,25 @@ TEST_F(MouseInputTest, AnotherButtonDuringADragChangesNothing) {
     EXPECT_EQ(Pos.Board[67], Red);
 }
 
+/// Whoever clicks a piece and at once drags it makes a double-click without meaning to.
+TEST_F(MouseInputTest, TheSecondPressOfADoubleClickDrags) {
+    const auto clickAndPress = [this](int square) {
+        ClickAt(Centre(square));
+        QTest::lastMouseTimestamp -= QTest::mouseDoubleClickInterval;
+        Press(Centre(square));
+    };
+    OpenForTwo(3, 68, 44);
+    clickAndPress(66);
+    EXPECT_TRUE(IsShown("DragOutline"));
+    Release(Centre(58));
+    EXPECT_EQ(Pos.Board[58], Red);
+    Open(3);
+    WhileThinking([this] { Release(Centre(69)); });
+    clickAndPress(69);
+    EXPECT_EQ(Pos.MoveCount, 3) << "the ring is given, and Blue has answered";
+    EXPECT_FALSE(IsShown("DragOutline")) << "the button is up";
+}
+
 /// Qt rounds this point to the corner of the next square.
 TEST_F(MouseInputTest, TheLastHalfPixelBelongsToItsSquare) {
     const QPointF point = InWindow(Centre(69)) + QPointF(19.5, 19.5);

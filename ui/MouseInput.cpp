@@ -3,6 +3,7 @@
 #include "ui/BoardView.h"
 #include "ui/Outline.h"
 
+#include <QGuiApplication>
 #include <QPainter>
 
 namespace brastel {
@@ -93,13 +94,14 @@ void MouseInput::Press(const QMouseEvent& event) {
     ShowOutline(point);
 }
 
-/// The first click of the pair was a press and a release of its own; this one starts no gesture, so
-/// that its release is no click. A piece that the first click has only just put there is no target.
+/// The second press of a double-click begins a gesture like any other press, unless the button went
+/// up while the computer answered. A piece that the first click has only just added gets no ring.
 void MouseInput::DoubleClick(const QMouseEvent& event) {
     CancelIfLost(event);
     if (Current != Gesture::None) return;
     const Piece piece = BoardView::PieceAt(PixelOf(event));
     if (piece && piece == Pressed) emit Piece_DblClick(piece);
+    if (QGuiApplication::mouseButtons().testFlag(event.button())) Press(event);
 }
 
 void MouseInput::Move(const QMouseEvent& event) {
