@@ -52,6 +52,10 @@ readonly Red=FF07FF Blue=07FFFF Empty=C0C0C0
 
 # ---- The story ----
 
+status=0
+said=$(QT_QPA_PLATFORM=nowhere "$Game" 2>&1) || status=$?
+[[ $status = 1 && $said = *'"nowhere"'* ]] || fail "without a platform: status $status, $said"
+
 "$Game" &
 GameProcess=$!
 Started+=("$GameProcess")
