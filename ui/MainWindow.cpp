@@ -93,7 +93,7 @@ MainWindow::MainWindow() {
     BuildSidePanel();
     BuildHiddenControls();
     Levels = BuildMenus(*this);
-    FixInnerArea(*this, InnerWidth, InnerHeight, menuBar()->sizeHint().height());
+    FixSize();
     ConnectInput();
     SetView(this);
     SetFileView(this);
@@ -135,6 +135,16 @@ void MainWindow::BuildHiddenControls() {
     }
     FillHidden(Text1, hidden, "Text1_");
     FillHidden(Text2, hidden, "Text2_");
+}
+
+/// The menu bar's room is a multiple of 4 logical pixels, which are whole device pixels at ratios of
+/// quarters: the board below then begins on a whole one. The rest lies above the bar; a bar higher
+/// than its items would have a broken line below them.
+void MainWindow::FixSize() {
+    const int height = menuBar()->sizeHint().height();
+    const int room = (height + 3) / 4 * 4;
+    setContentsMargins(0, room - height, 0, 0);
+    FixInnerArea(*this, InnerWidth, InnerHeight, room);
 }
 
 void MainWindow::ConnectInput() {

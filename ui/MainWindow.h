@@ -69,6 +69,7 @@ private:
     void BuildWindow();
     void BuildSidePanel();
     void BuildHiddenControls();
+    void FixSize();
     void ConnectInput();
     void LetGo();
     void ConnectGestures(const BoardInput& input);
