@@ -4,12 +4,14 @@ namespace brastel {
 
 void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width, QColor color) {
     const QTransform& toDevice = painter.deviceTransform();
-    const int thickness = qMax(1, qRound(width * painter.device()->devicePixelRatioF()));
-    const QPoint half((thickness - 1) / 2, (thickness - 1) / 2);
-    const QPoint begin = toDevice.map(QPointF(from)).toPoint() - half;
-    const QPoint end = toDevice.map(QPointF(to)).toPoint() - half;
-    const QRectF device(begin,
-                        QSizeF(end.x() - begin.x() + thickness, end.y() - begin.y() + thickness));
+    const qreal ratio = painter.device()->devicePixelRatioF();
+    const int thin = qMax(1, qRound(ratio));
+    const int margin = qRound((width * ratio - thin) / 2);
+    const int before = (thin - 1) / 2 + margin;
+    const int thickness = thin + 2 * margin;
+    const QPoint begin = toDevice.map(QPointF(from)).toPoint() - QPoint(before, before);
+    const QPoint end = toDevice.map(QPointF(to)).toPoint() - QPoint(before, before);
+    const QRectF device(begin, end + QPoint(thickness, thickness));
     painter.fillRect(toDevice.inverted().mapRect(device), color);
 }
 
