@@ -15,11 +15,15 @@ void LayRing(int square) {
     }
 }
 
+bool MayPlaceRing(Piece piece) {
+    return IsPlacingRing(piece.Side) && SquareOf(piece) != NoSquare &&
+           (InFreeSetup() || piece.Index <= LastRingPiece);
+}
+
 bool PlaceRing(Piece piece) {
+    if (!MayPlaceRing(piece)) return false;
     const bool isSetup = InFreeSetup();
     const int square = SquareOf(piece);
-    if (!IsPlacingRing(piece.Side) || square == NoSquare) return false;
-    if (!isSetup && piece.Index > LastRingPiece) return false;
     LayRing(square);
     if (isSetup) (piece.Side == Red ? RedStart : BlueStart)[0] = ToInt16(square);
     return true;

@@ -18,10 +18,13 @@ inline bool IsPlacingRing(int side) { return Pos.MoveCount == (side == Red ? 1 :
 /// stands there. The pieces placed by hand so far become that side's pieces.
 void LayRing(int square);
 
+/// True if it is the placement of the piece's side and the piece stands on the board; outside a
+/// free setup its index must not be above LastRingPiece.
+bool MayPlaceRing(Piece piece);
+
 /// Gives the side's ring to one of its pieces; in a free setup this ends the side's setup and the
-/// start table's entry 0 takes the ring square. False, and nothing changed, when it is not this
-/// side's placement, there is no such piece, or its index is above LastRingPiece outside a free
-/// setup. Record, MoveCount and turn are the caller's.
+/// start table's entry 0 takes the ring square. False, and nothing changed, unless MayPlaceRing.
+/// Record, MoveCount and turn are the caller's.
 bool PlaceRing(Piece piece);
 
 /// Adds a piece of the side being set up at a view point, which snaps to its square; a strip up to

@@ -9,6 +9,8 @@ namespace {
 
 constexpr QRgb Black = qRgb(0, 0, 0);
 constexpr QRgb Ground = qRgb(192, 192, 192);
+constexpr QRgb MarkBlue = qRgb(0, 64, 255);
+constexpr QRgb White = qRgb(255, 255, 255);
 
 using BoardViewTest = WindowTest;
 
@@ -19,16 +21,16 @@ QPoint FirstOf(QRgb color, const QImage& picture, QPoint start, QPoint step) {
     return point;
 }
 
-/// Length of the black run that begins at a logical point, in device pixels. At a ratio that is no
-/// whole number it may begin a device pixel earlier or later. 0 unless the pixels before and behind
-/// it are ground.
-int BlackRun(const QImage& picture, QPoint start, QPoint step) {
-    QPoint point = (QPointF(start) * picture.devicePixelRatio()).toPoint() - 2 * step;
-    if (picture.pixel(point) != Ground) return 0;
+/// Length of the run of a colour that begins at a logical point, in device pixels. At a ratio that
+/// is no whole number it may begin a device pixel earlier or later. 0 unless the pixel before it is
+/// ground and the one behind it has the colour `behind`.
+int LengthOf(const QImage& picture, QPoint start, QPoint step, QRgb color, QRgb behind) {
+    const int ratio = qCeil(picture.devicePixelRatio());
+    QPoint point = (QPointF(start) * picture.devicePixelRatio()).toPoint() - 2 * ratio * step;
     while (picture.pixel(point) == Ground) point += step;
     int length = 0;
-    for (; picture.pixel(point) == Black; point += step) ++length;
-    return picture.pixel(point) == Ground ? length : 0;
+    for (; picture.pixel(point) == color; point += step) ++length;
+    return picture.pixel(point) == behind ? length : 0;
 }
 
 /// Run at the usual device pixel ratios.
@@ -52,7 +54,8 @@ TEST_F(BoardViewTest, LinesAreSharp) {
         {"message frame", {620, 450}, right, 1},
     };
     for (const Case& c : Cases) {
-        EXPECT_NEAR(BlackRun(picture, c.Start, c.Step), c.Width * ratio, 0.8) << c.Name;
+        EXPECT_NEAR(LengthOf(picture, c.Start, c.Step, Black, Ground), c.Width * ratio, 0.8)
+            << c.Name;
     }
 }
 
@@ -80,17 +83,20 @@ TEST_F(BoardViewTest, TheDraggedOutlineIsWhole) {
         const QPoint middle = QPoint(500, 680) + QPoint(n, n);
         Move(middle);
         const QImage picture = Picture();
-        const int width = qRound(picture.devicePixelRatio());
         const std::pair<QPoint, QPoint> edges[] = {
-            {{-20, 0}, {1, 0}}, {{19, 0}, {1, 0}}, {{0, -20}, {0, 1}}, {{0, 19}, {0, 1}}};
+            {{-20, 0}, {1, 0}}, {{20, 0}, {-1, 0}}, {{0, -20}, {0, 1}}, {{0, 20}, {0, -1}}};
         for (const auto& [edge, step] : edges) {
-            EXPECT_EQ(BlackRun(picture, middle + edge, step), width) << edge.x() << " " << edge.y();
+            EXPECT_NEAR(LengthOf(picture, middle + edge, step, MarkBlue, White),
+                        3 * picture.devicePixelRatio(), 0.8)
+                << edge.x() << " " << edge.y();
         }
     }
     Release({500, 680});
 }
 
+/// The keyboard's frame lies below the ring.
 TEST_F(BoardViewTest, CirclesTouchTheirSquaresFromInside) {
+    for (int row = 8; row > 0; --row) QTest::keyClick(Window.windowHandle(), Qt::Key_Up);
     const QImage picture = Picture();
     const int ratio = qRound(picture.devicePixelRatio());
     const QRect circles[] = {{SquareLeft(4), SquareTop(4), 40, 40}, {660, 230, 51, 51}};

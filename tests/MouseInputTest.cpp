@@ -1,3 +1,4 @@
+#include "tests/ShownPosition.h"
 #include "tests/WindowTest.h"
 
 #include <array>
@@ -20,12 +21,36 @@ TEST_F(MouseInputTest, EveryButtonDragsAPiece) {
 TEST_F(MouseInputTest, TheOutlineFollowsThePointerAndGoes) {
     OpenForTwo(3, 68, 44);
     auto* outline = Control<QWidget>("DragOutline");
+    const QImage before = Picture();
     Press(Centre(66) + QPoint(5, -7));
     EXPECT_TRUE(outline->isVisible());
     Move({700, 300});
-    EXPECT_EQ(outline->geometry().center(), QRect(700 - 25, 300 - 13, 40, 40).center());
+    EXPECT_EQ(outline->geometry().center(), QRect(700 - 25, 300 - 13, 41, 41).center());
+    EXPECT_NE(FirstWrongShown(Picture()), "") << "the piece is tinted";
     Release({700, 300});
     EXPECT_FALSE(outline->isVisible());
+    EXPECT_EQ(Picture(), before);
+}
+
+TEST_F(MouseInputTest, TheCursorTellsWhatCanBeDone) {
+    const auto over = [this](int square) {
+        Move(Centre(square));
+        return Form->cursor().shape();
+    };
+    Open(4);
+    ChooseFromMenu("mnu_Level", "mnu_TwoPlayer");
+    EXPECT_EQ(over(69), Qt::PointingHandCursor);
+    EXPECT_EQ(over(28), Qt::ArrowCursor) << "number 9 cannot get the ring";
+    EXPECT_EQ(over(44), Qt::ArrowCursor);
+    DoubleClick(68);
+    DoubleClick(44);
+    EXPECT_EQ(over(66), Qt::OpenHandCursor);
+    EXPECT_EQ(over(42), Qt::ArrowCursor);
+    EXPECT_EQ(over(50), Qt::ArrowCursor);
+    Press(Centre(66));
+    EXPECT_EQ(over(58), Qt::ClosedHandCursor);
+    Release(Centre(58));
+    EXPECT_EQ(Form->cursor().shape(), Qt::ArrowCursor) << "Blue is to move";
 }
 
 /// The board's columns and rows are told by division. A drop right of the board would be taken for

@@ -32,10 +32,7 @@ constexpr std::array<Line, 7> FieldLines{{
     {{220, 540}, {300, 540}},
 }};
 
-/// Blue stands out from the ground and the beads, the white line inside from a ring.
-constexpr QColor MarkColor(0, 64, 255);
 constexpr QColor HeldTint(0, 64, 255, 100);
-constexpr int MarkWidth = 3;
 
 constexpr QRect BoardBorder(BoardLeft, BoardTop, BoardWidth, BoardHeight);
 /// shp_Circle, Red's and Blue's.
@@ -45,10 +42,13 @@ constexpr QRect BlueCircle = TwipRect{8760, 2760, 612, 612}.InPixels();
 constexpr QRect MessageFrame = TwipRect{7440, 5160, 2532, 612}.InPixels();
 
 /// shp_board: neighbours share a line.
+QRect SquareOutline(int square) {
+    return {SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1};
+}
+
 void PaintSquares(QPainter& painter) {
     for (int square = FirstSquare; square <= LastSquare; ++square) {
-        if (!InField(square)) continue;
-        PaintOutline(painter, {SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1});
+        if (InField(square)) PaintOutline(painter, SquareOutline(square));
     }
 }
 
@@ -67,13 +67,6 @@ void PaintCircle(QPainter& painter, const QRect& rect) {
     painter.setBrush(Qt::NoBrush);
     painter.drawEllipse(QRectF(rect).adjusted(Half, Half, -Half, -Half));
     painter.restore();
-}
-
-/// Around the square, so that it hides neither its bead nor its ring.
-void PaintFocus(QPainter& painter, int square) {
-    const QRect outline(SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1);
-    PaintOutline(painter, outline, MarkWidth, MarkColor);
-    PaintOutline(painter, outline.adjusted(2, 2, -2, -2), 1, Qt::white);
 }
 
 /// shp_Ring, above the pieces: nothing else shows who carries a ring.
@@ -99,9 +92,9 @@ void BoardView::ShowTurn(Int16 side) {
 
 QRect BoardView::TurnCircle(Int16 side) { return side == Red ? RedCircle : BlueCircle; }
 
-void BoardView::ShowMarks(const KeyboardMarks& marks) {
-    if (marks == Marks) return;
-    Marks = marks;
+void BoardView::Show(int& mark, int square) {
+    if (mark == square) return;
+    mark = square;
     update();
 }
 
@@ -129,15 +122,11 @@ void BoardView::PaintPieces(QPainter& painter) {
 }
 
 void BoardView::PaintMarks(QPainter& painter) {
-    if (!Marks.IsShown || !hasFocus()) return;
-    if (Marks.Held != NoSquare) {
-        painter.fillRect(SquareLeft(Marks.Held), SquareTop(Marks.Held), CellSize + 1, CellSize + 1,
-                         HeldTint);
-    }
-    PaintFocus(painter, Marks.Focus);
+    if (Held != NoSquare) painter.fillRect(SquareOutline(Held), HeldTint);
+    if (Focus != NoSquare && hasFocus()) PaintMark(painter, SquareOutline(Focus));
 }
 
-/// Lines lie above the pieces' grey ground, which would cut into them.
+/// Lines lie above the pieces' grey ground, which would cut into them, and rings above the marks.
 void BoardView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), WindowGround);
@@ -145,8 +134,8 @@ void BoardView::paintEvent(QPaintEvent* event) {
     PaintOutline(painter, BoardBorder);
     PaintSquares(painter);
     PaintFieldLines(painter);
-    PaintRings(painter);
     PaintMarks(painter);
+    PaintRings(painter);
     PaintCircle(painter, TurnCircle(Turn));
     PaintOutline(painter, MessageFrame);
 }

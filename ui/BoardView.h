@@ -7,18 +7,6 @@
 
 namespace brastel {
 
-/// What a player without a mouse sees of the keyboard's place on the board.
-struct KeyboardMarks {
-    /// The square that the keyboard points at. It begins in the middle of Red's side, where Red has
-    /// a piece in most layouts.
-    int Focus = SquareAt(8, 3);
-    bool IsShown = false;
-    /// The square of the piece that the keyboard has taken up, NoSquare for none.
-    int Held = NoSquare;
-
-    bool operator==(const KeyboardMarks&) const = default;
-};
-
 /// The inner area of the main window: paints the board with pieces and rings straight from the
 /// position, and the shapes of the side panel. View coordinates are its own logical pixels. The
 /// controls of the panel are its children.
@@ -35,8 +23,11 @@ public:
     static QRect TurnCircle(Int16 side);
     Int16 ShownTurn() const { return Turn; }
 
-    /// Shows the marks while the view has the keyboard.
-    void ShowMarks(const KeyboardMarks& marks);
+    /// Frames the square that the keyboard points at, while the view has the keyboard; NoSquare for
+    /// none.
+    void ShowFocus(int square) { Show(Focus, square); }
+    /// Tints the square of the piece that is dragged or taken up; NoSquare for none.
+    void ShowHeld(int square) { Show(Held, square); }
 
     /// The piece whose picture lies under a point, or no piece.
     static Piece PieceAt(QPoint point);
@@ -45,12 +36,14 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
+    void Show(int& mark, int square);
     void PaintPieces(QPainter& painter);
     void PaintMarks(QPainter& painter);
     const QPixmap& BeadOf(int side);
 
     Int16 Turn = Red;
-    KeyboardMarks Marks;
+    int Focus = NoSquare;
+    int Held = NoSquare;
     /// Red's and Blue's bead for the present device pixel ratio, drawn when first needed.
     QPixmap RedBead;
     QPixmap BlueBead;

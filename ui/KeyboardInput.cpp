@@ -64,8 +64,8 @@ bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
             FollowMouse(PixelOf(static_cast<QMouseEvent&>(*event)));
             return false;
         case QEvent::FocusIn:
-            if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) Marks.IsShown = true;
-            ShowMarks();
+            if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) IsFocusShown = true;
+            ShowFocus();
             // After the toolkit has told that the view as a whole has the focus.
             FocusTimer.start(0);
             return false;
@@ -89,34 +89,33 @@ bool KeyboardInput::Handle(const QKeyEvent& event) {
     if (event.isAutoRepeat() && !binding->Repeats) return true;
     Mouse->Cancel();
     // Escape may only end a drag of the mouse.
-    if (event.key() != Qt::Key_Escape) Marks.IsShown = true;
+    if (event.key() != Qt::Key_Escape) IsFocusShown = true;
     binding->Action(*this);
-    ShowMarks();
+    ShowFocus();
     return true;
 }
 
 void KeyboardInput::FollowMouse(QPoint point) {
     LetGo();
-    Marks.IsShown = false;
+    IsFocusShown = false;
     if (IsBoardPoint(point.x(), point.y())) FocusOn(SquareFromPoint(point.x(), point.y()));
-    ShowMarks();
+    ShowFocus();
 }
 
 void KeyboardInput::TellFocus() {
-    if (Form->hasFocus()) emit FocusMoved(Marks.Focus);
+    if (Form->hasFocus()) emit FocusMoved(Focus);
 }
 
-void KeyboardInput::ShowMarks() { Form->ShowMarks(Marks); }
+void KeyboardInput::ShowFocus() { Form->ShowFocus(IsFocusShown ? Focus : NoSquare); }
 
 QPoint KeyboardInput::FocusPoint() const {
-    return QPoint(SquareLeft(Marks.Focus), SquareTop(Marks.Focus)) +
-           QPoint(CellSize / 2, CellSize / 2);
+    return QPoint(SquareLeft(Focus), SquareTop(Focus)) + QPoint(CellSize / 2, CellSize / 2);
 }
 
 void KeyboardInput::FocusOn(int square) {
     if (IsThinking || !IsOnBoard(square)) return;
-    Marks.Focus = square;
-    ShowMarks();
+    Focus = square;
+    ShowFocus();
     TellFocus();
 }
 
@@ -129,21 +128,21 @@ void KeyboardInput::Try(const std::function<void()>& gesture, const QString& fai
 void KeyboardInput::Press() {
     if (IsThinking) return;
     Mouse->Cancel();
-    if (Marks.Held != NoSquare) return DropHere();
-    if (PieceOn(Marks.Focus)) return PickUp();
+    if (Held != NoSquare) return DropHere();
+    if (PieceOn(Focus)) return PickUp();
     const QPoint point = FocusPoint();
     Try([&] { emit Form_MouseUp(point.x(), point.y()); }, "nothing here");
 }
 
 void KeyboardInput::PickUp() {
-    Marks.Held = Marks.Focus;
-    ShowMarks();
-    emit Told(PieceName(Marks.Held) + " picked up");
+    Held = Focus;
+    Form->ShowHeld(Held);
+    emit Told(PieceName(Held) + " picked up");
 }
 
 void KeyboardInput::DropHere() {
-    const Piece held = PieceOn(Marks.Held);
-    const QString name = PieceName(Marks.Held);
+    const Piece held = PieceOn(Held);
+    const QString name = PieceName(Held);
     Release();
     Try([&] { Drop(held, FocusPoint()); }, name + " stays");
 }
@@ -152,20 +151,20 @@ void KeyboardInput::DoubleClick() {
     if (IsThinking) return;
     Mouse->Cancel();
     LetGo();
-    const Piece piece = PieceOn(Marks.Focus);
+    const Piece piece = PieceOn(Focus);
     if (!piece) return emit Told("nothing here");
     emit Piece_DblClick(piece);
 }
 
 void KeyboardInput::LetGo() {
-    if (Marks.Held == NoSquare) return;
-    emit Told(PieceName(Marks.Held) + " put back");
+    if (Held == NoSquare) return;
+    emit Told(PieceName(Held) + " put back");
     Release();
 }
 
 void KeyboardInput::Release() {
-    Marks.Held = NoSquare;
-    ShowMarks();
+    Held = NoSquare;
+    Form->ShowHeld(NoSquare);
 }
 
 }  // namespace brastel

@@ -25,9 +25,9 @@ public:
     /// A key ends what the mouse has begun, and the other way round.
     KeyboardInput(BoardView* view, MouseInput* mouse);
 
-    int FocusSquare() const { return Marks.Focus; }
+    int FocusSquare() const { return Focus; }
     /// Where the piece stands that is held, NoSquare while none is.
-    int HeldSquare() const { return Marks.Held; }
+    int HeldSquare() const { return Held; }
 
     // ---- What the keys do, for assistive technology, too; nothing while the computer thinks ----
     /// Moves the focus to a square of the board; any other number is ignored.
@@ -51,7 +51,7 @@ private:
     bool Handle(const QKeyEvent& event);
     void FollowMouse(QPoint point);
     void TellFocus();
-    void ShowMarks();
+    void ShowFocus();
     void PickUp();
     void DropHere();
     QPoint FocusPoint() const;
@@ -59,7 +59,10 @@ private:
     void Try(const std::function<void()>& gesture, const QString& failure);
 
     MouseInput* const Mouse;
-    KeyboardMarks Marks;
+    /// It begins in the middle of Red's side, where Red has a piece in most layouts.
+    int Focus = SquareAt(8, 3);
+    bool IsFocusShown = false;
+    int Held = NoSquare;
     QTimer FocusTimer;
 };
 

@@ -224,6 +224,7 @@ void MainWindow::ShowMessage(std::string_view text) {
 
 void MainWindow::ShowTurn(Int16 side) {
     Form->ShowTurn(side);
+    Mouse->ShowCursor();
     TellTurnChanged(*Form);
 }
 

@@ -1,5 +1,6 @@
 #include "ui/MouseInput.h"
 
+#include "core/Opening.h"
 #include "ui/BoardView.h"
 #include "ui/Outline.h"
 
@@ -10,10 +11,6 @@ namespace brastel {
 
 namespace {
 
-/// Device pixels of the outline can lie beside its logical ones, where one is no whole number of
-/// the others.
-constexpr int OutlineMargin = 1;
-
 /// The moving outline of a dragged piece. A widget of its own, above the controls too, so that Qt
 /// repaints what it leaves behind.
 class DragOutline : public QWidget {
@@ -21,16 +18,27 @@ public:
     explicit DragOutline(QWidget* parent) : QWidget(parent) {
         setObjectName("DragOutline");
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        resize(CellSize + 2 * OutlineMargin, CellSize + 2 * OutlineMargin);
+        const int edge = CellSize + 1 + 2 * MarkMargin;
+        resize(edge, edge);
         hide();
     }
 
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        PaintOutline(painter, rect().marginsRemoved(QMargins() + OutlineMargin));
+        PaintMark(painter, rect().marginsRemoved(QMargins() + MarkMargin));
     }
 };
+
+/// An open hand over a piece that can act, a pointing one over a piece that a double-click gives
+/// the ring.
+Qt::CursorShape CursorOver(Piece piece) {
+    if (MayPlaceRing(piece)) return Qt::PointingHandCursor;
+    const int square = SquareOf(piece);
+    const bool mayAct = BothRingsPlaced() && piece.Side == Pos.SideToMove &&
+                        (InField(square) || IsRingSquare(square));
+    return mayAct ? Qt::OpenHandCursor : Qt::ArrowCursor;
+}
 
 bool IsFormPoint(const QWidget& form, QPoint point) {
     return form.rect().contains(point) && form.childAt(point) == nullptr;
@@ -39,13 +47,26 @@ bool IsFormPoint(const QWidget& form, QPoint point) {
 }  // namespace
 
 MouseInput::MouseInput(BoardView* view) : BoardInput(view), Outline(new DragOutline(view)) {
-    // Moves without a button tell that a release went elsewhere.
+    // Moves without a button choose the cursor, and tell that a release went elsewhere.
     Form->setMouseTracking(true);
+    for (QWidget* control : Form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
+        control->setCursor(Qt::ArrowCursor);
+    }
 }
 
 void MouseInput::Cancel() {
+    if (Current == Gesture::Drag) {
+        Outline->hide();
+        Form->ShowHeld(NoSquare);
+    }
     Current = Gesture::None;
-    Outline->hide();
+    ShowCursor();
+}
+
+void MouseInput::ShowCursor() {
+    const auto shape =
+        Current == Gesture::Drag ? Qt::ClosedHandCursor : CursorOver(BoardView::PieceAt(Pointer));
+    if (Form->cursor().shape() != shape) Form->setCursor(shape);
 }
 
 bool MouseInput::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -74,56 +95,66 @@ bool MouseInput::eventFilter(QObject* /*watched*/, QEvent* event) {
 
 /// Ends a gesture whose button is no longer down: its release went elsewhere, and the next one
 /// would drop the piece wherever it comes.
-void MouseInput::CancelIfLost(const QMouseEvent& event) {
+void MouseInput::Follow(const QMouseEvent& event) {
+    Pointer = PixelOf(event);
     const Qt::MouseButtons heldBefore = event.buttons() & ~Qt::MouseButtons(event.button());
     if (!heldBefore.testFlag(Button)) Cancel();
 }
 
 void MouseInput::Press(const QMouseEvent& event) {
-    CancelIfLost(event);
+    Follow(event);
     if (Current != Gesture::None) return;
-    const QPoint point = PixelOf(event);
     Button = event.button();
-    Pressed = BoardView::PieceAt(point);
-    Current = Pressed ? Gesture::Drag : Gesture::Click;
-    if (!Pressed) return;
+    Pressed = BoardView::PieceAt(Pointer);
+    if (Pressed) {
+        TakePiece();
+    } else {
+        Current = Gesture::Click;
+    }
+}
+
+void MouseInput::TakePiece() {
     const int square = SquareOf(Pressed);
-    Grip = point - QPoint(SquareLeft(square), SquareTop(square));
+    Grip = Pointer - QPoint(SquareLeft(square), SquareTop(square));
     // The keyboard must reach the form, or Escape would not end the drag.
     Form->setFocus(Qt::MouseFocusReason);
-    ShowOutline(point);
+    Current = Gesture::Drag;
+    Form->ShowHeld(square);
+    ShowOutline();
+    ShowCursor();
 }
 
 /// The second press of a double-click begins a gesture like any other press, unless the button went
 /// up while the computer answered. A piece that the first click has only just added gets no ring.
 void MouseInput::DoubleClick(const QMouseEvent& event) {
-    CancelIfLost(event);
+    Follow(event);
     if (Current != Gesture::None) return;
-    const Piece piece = BoardView::PieceAt(PixelOf(event));
+    const Piece piece = BoardView::PieceAt(Pointer);
     if (piece && piece == Pressed) emit Piece_DblClick(piece);
     if (QGuiApplication::mouseButtons().testFlag(event.button())) Press(event);
 }
 
 void MouseInput::Move(const QMouseEvent& event) {
-    CancelIfLost(event);
-    if (Current == Gesture::Drag) ShowOutline(PixelOf(event));
+    Follow(event);
+    if (Current == Gesture::Drag) ShowOutline();
+    ShowCursor();
 }
 
 void MouseInput::Release(const QMouseEvent& event) {
+    Pointer = PixelOf(event);
     if (Current == Gesture::None || event.button() != Button) return;
     const Gesture ended = Current;
     Cancel();
-    const QPoint point = PixelOf(event);
-    if (!IsFormPoint(*Form, point)) return;
+    if (!IsFormPoint(*Form, Pointer)) return;
     if (ended == Gesture::Drag) {
-        Drop(Pressed, point);
+        Drop(Pressed, Pointer);
     } else {
-        emit Form_MouseUp(point.x(), point.y());
+        emit Form_MouseUp(Pointer.x(), Pointer.y());
     }
 }
 
-void MouseInput::ShowOutline(QPoint pointer) {
-    Outline->move(pointer - Grip - QPoint(OutlineMargin, OutlineMargin));
+void MouseInput::ShowOutline() {
+    Outline->move(Pointer - Grip - QPoint(MarkMargin, MarkMargin));
     Outline->raise();
     Outline->show();
 }
