@@ -3,8 +3,9 @@
 #include "core/StartPosition.h"
 #include "files/FileView.h"
 #include "files/NumberFile.h"
+#include "files/TextFile.h"
 
-#include <filesystem>
+#include <cerrno>
 
 namespace brastel {
 
@@ -35,21 +36,18 @@ std::string TableLines(const StartTable& table, Int16 count) {
     return lines;
 }
 
-std::string GameText() {
+std::string StartText() {
     const Int16 redCount = ToInt16(StartCount(Red));
     const Int16 blueCount = ToInt16(StartCount(Blue));
-    const Int16 entries = ToInt16(Pos.MoveCount - 1);
-    std::string text = Line(redCount, blueCount);
-    text += TableLines(RedStart, redCount) + TableLines(BlueStart, blueCount);
-    text += Line(entries);
-    for (int k = 1; k <= entries; ++k) text += Line(PlayedFrom[k], PlayedTo[k]);
-    return text;
+    return Line(redCount, blueCount) + TableLines(RedStart, redCount) +
+           TableLines(BlueStart, blueCount);
 }
 
-bool MayWrite(const std::string& path) {
-    std::error_code ignored;
-    return !std::filesystem::exists(path, ignored) ||
-           FileWindows->AskYesOrNo(OverwriteText, OverwriteTitle);
+std::string GameText() {
+    const Int16 entries = ToInt16(Pos.MoveCount - 1);
+    std::string text = StartText() + Line(entries);
+    for (int k = 1; k <= entries; ++k) text += Line(PlayedFrom[k], PlayedTo[k]);
+    return text;
 }
 
 // ---- Reading: each value goes straight to its place, so that those before an error stay ----
@@ -134,16 +132,18 @@ GameReading ReadGame(NumberReader& file) {
 }  // namespace
 
 void SaveGameFile(const std::string& path) {
-    if (!MayWrite(path)) return;
-    const FileError error = WriteTextFile(path, GameText());
+    const std::string text = GameText();
+    FileError error = CreateTextFile(path, text);
+    if (error != FileError::None && errno == EEXIST) {
+        if (!FileWindows->AskYesOrNo(OverwriteText, OverwriteTitle)) return;
+        error = WriteTextFile(path, text);
+    }
     if (error != FileError::None) ReportFileError(error);
 }
 
 GameReading ReadGameFile(const std::string& path) {
     NumberReader file(path);
-    const bool isOpen = file.Error() == FileError::None;
     GameReading reading = ReadGame(file);
-    if (!isOpen) reading.Line = 0;
     reading.SystemError = file.SystemError();
     TakeLoadedGame();
     return reading;

@@ -14,8 +14,8 @@ namespace brastel {
 extern std::string LoadedFileName;
 
 /// Writes the game: counts, start tables and the entries played. Asks before it overwrites an
-/// existing file. A failure is shown to the user and can leave a part of the file behind; the game
-/// is untouched. `path` is UTF-8 and may be relative to the working folder.
+/// existing file. A failure is shown to the user; it leaves an existing file as it was, and can
+/// leave a part of a new one behind. `path` is UTF-8 and may be relative to the working folder.
 void SaveGameFile(const std::string& path);
 
 /// How the reading of a game file went.
@@ -23,8 +23,7 @@ struct GameReading {
     FileError Error = FileError::None;
     /// What is wrong, in a few words without a full stop; empty when nothing is.
     std::string_view Cause;
-    /// Where in the file it is wrong, from 1; for a count too large that of the count. 0 when the
-    /// file could not be opened.
+    /// The line on which it is wrong, from 1; for a count too large that of the count.
     std::int64_t Line = 0;
     /// What the system calls the failure (errno), or 0 if the failure is none of its own.
     int SystemError = 0;

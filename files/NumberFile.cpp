@@ -19,71 +19,33 @@ bool IsSeparator(int byte) {
     return std::string_view(" \t,\r\n").find(static_cast<char>(byte)) != std::string_view::npos;
 }
 
-/// Pipes without a writer, or a device, must not hold the program up.
-constexpr int NeverWait = O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
-
-/// Sorts a path that cannot be opened: a missing file in a missing folder is a missing path. Leaves
-/// errno as it was.
-FileError OpenFailure(const std::string& path, int systemError) {
-    if (systemError != ENOENT) return FileErrorFromSystem(systemError);
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos || slash == 0) return FileError::FileNotFound;
-    struct stat folder {};
-    const bool hasFolder = stat(path.substr(0, slash).c_str(), &folder) == 0;
-    errno = systemError;
-    return hasFolder ? FileError::FileNotFound : FileError::PathNotAccessible;
-}
-
 /// Asked before opening, too: opening a pipe or a device can set something off.
 bool IsOtherThanFile(const std::string& path) {
     struct stat state {};
     return stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
 }
 
-bool IsOrdinaryFile(int file) {
-    struct stat state {};
-    return fstat(file, &state) == 0 && S_ISREG(state.st_mode);
-}
-
-bool IsPipe(int file) {
-    struct stat state {};
-    return fstat(file, &state) == 0 && S_ISFIFO(state.st_mode);
-}
-
-FileError WriteAll(int file, std::string_view text) {
-    while (!text.empty()) {
-        const ssize_t written = write(file, text.data(), text.size());
-        if (written < 0 && errno == EINTR) continue;
-        if (written <= 0) return FileErrorFromSystem(written < 0 ? errno : ENOSPC);
-        text.remove_prefix(static_cast<std::size_t>(written));
-    }
-    return FileError::None;
-}
-
 }  // namespace
 
 NumberReader::NumberReader(const std::string& path) {
     if (IsOtherThanFile(path)) {
-        Failure = FileError::NotAFile;
+        Fail(FileError::NotAFile);
         return;
     }
-    File = open(path.c_str(), O_RDONLY | NeverWait);
-    if (File < 0) {
-        FailBy(errno, OpenFailure(path, errno));
-    } else if (!IsOrdinaryFile(File)) {
-        Failure = FileError::NotAFile;
+    File.emplace(path, O_RDONLY);
+    const struct stat state = File->State();
+    if (!File->IsOpen()) {
+        FailBy(errno, FileErrorOfOpening(path, errno));
+    } else if (!S_ISREG(state.st_mode)) {
+        Fail(FileError::NotAFile);
     }
-}
-
-NumberReader::~NumberReader() {
-    if (File >= 0) close(File);
 }
 
 int NumberReader::Peek() {
     if (Used == Filled) {
         ssize_t count = 0;
         do {
-            count = read(File, Buffer.data(), Buffer.size());
+            count = read(File->Descriptor(), Buffer.data(), Buffer.size());
         } while (count < 0 && errno == EINTR);
         if (count < 0) FailBy(errno, FileErrorFromSystem(errno));
         if (count <= 0) return EndOfData;
@@ -144,17 +106,6 @@ std::string NumberText(Int16 value) {
     text += std::to_string(value);
     text += ' ';
     return text;
-}
-
-FileError WriteTextFile(const std::string& path, const std::string& text) {
-    constexpr int Permissions = 0666;
-    errno = 0;
-    const int file = open(path.c_str(), O_WRONLY | O_CREAT | O_TRUNC | NeverWait, Permissions);
-    if (file < 0) return OpenFailure(path, errno);
-    const FileError written = IsPipe(file) ? FileError::NotAFile : WriteAll(file, text);
-    const bool isClosed = close(file) == 0;
-    if (written != FileError::None || isClosed) return written;
-    return FileErrorFromSystem(errno);
 }
 
 }  // namespace brastel

@@ -1,11 +1,12 @@
 #pragma once
 
 #include "core/Numbers.h"
-#include "files/FileErrors.h"
+#include "files/OpenFile.h"
 
 #include <array>
 #include <cstddef>
 #include <cstdint>
+#include <optional>
 #include <string>
 
 /// Text files of 16-bit numbers.
@@ -18,9 +19,6 @@ class NumberReader {
 public:
     /// Opens the file; Error() tells whether that worked.
     explicit NumberReader(const std::string& path);
-    ~NumberReader();
-    NumberReader(const NumberReader&) = delete;
-    NumberReader& operator=(const NumberReader&) = delete;
 
     FileError Error() const { return Failure; }
     /// What the system calls the failure (errno), or 0 if the failure is none of its own.
@@ -47,7 +45,7 @@ private:
     std::array<unsigned char, 4096> Buffer{};
     std::size_t Used = 0;
     std::size_t Filled = 0;
-    int File = -1;
+    std::optional<OpenFile> File;
     FileError Failure = FileError::None;
     int SystemFailure = 0;
     std::int64_t CurrentLine = 1;
@@ -57,9 +55,5 @@ private:
 
 /// A number as files hold it: a sign column (a space unless negative), the digits, a space.
 std::string NumberText(Int16 value);
-
-/// Creates or empties the file and writes the text. A failure can leave a part of it behind; then
-/// errno is what the system calls it, or 0 if the failure is none of its own.
-FileError WriteTextFile(const std::string& path, const std::string& text);
 
 }  // namespace brastel

@@ -93,6 +93,8 @@ SavedGame& SavedOf(int number) { return Saved[static_cast<std::size_t>(number % 
 
 void Save(Arguments a) {
     SavedGame& saved = SavedOf(a.A);
+    // So that no copy of it has to be kept on disk meanwhile.
+    saved.File.Write("");
     SaveGameFile(saved.File.Path());
     saved.From = PlayedFrom;
     saved.To = PlayedTo;

@@ -95,6 +95,9 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Position start = Pos;
     StepToTheEnd();
     const Position end = Pos;
+    // So that no copy of them has to be kept on disk meanwhile.
+    First.Write("");
+    Second.Write("");
     SaveGameFile(First.Path());
     StepToTheStart(start);
     RequireSavedGame(end, isLoaded);

@@ -2,6 +2,8 @@
 #include "tests/FilesTest.h"
 #include "tests/GameTest.h"
 
+#include <csignal>
+#include <sys/resource.h>
 #include <sys/stat.h>
 
 namespace brastel {
@@ -106,11 +108,55 @@ TEST_F(GameFileTest, FailuresLeaveTheGameAlone) {
         EXPECT_EQ(WalkThrough(), 3);
         EXPECT_EQ(OpenFiles(), openFiles);
     }
+    EXPECT_EQ(FileErrorFromSystem(EROFS), FileError::PathNotAccessible);
     BranchMark = 2;
     fs::remove("1");
     EXPECT_EQ(Load("1"), "close open ") << "the same file is not read again";
     EXPECT_EQ(BranchMark, 0);
     EXPECT_EQ(WalkThrough(), 3);
+}
+
+/// The old file used to be emptied first. Here it has a link and, at last, a second name. No file
+/// may grow beyond the limit.
+TEST_F(GameFileTest, AFailedSaveLeavesTheOldFileWhole) {
+    std::signal(SIGXFSZ, SIG_IGN);
+    rlimit size{};
+    getrlimit(RLIMIT_FSIZE, &size);
+    const auto unlimited = size.rlim_cur;
+    Desk.Answer = true;
+    Play("R3 B3 66-58");
+    fs::create_symlink("file", "link");
+    for (const std::string name : {"file", "link", "name"}) {
+        for (const std::string& old : {std::string("old"), std::string(999, 'x')}) {
+            WriteBytes("file", old);
+            fs::permissions("file", fs::perms(0640));
+            if (name == "name" && !fs::exists(name)) fs::create_hard_link("file", name);
+            for (const rlim_t limit : {rlim_t{0}, rlim_t{100}, unlimited}) {
+                size.rlim_cur = limit;
+                setrlimit(RLIMIT_FSIZE, &size);
+                SaveGameFile(name);
+                size.rlim_cur = unlimited;
+                setrlimit(RLIMIT_FSIZE, &size);
+                EXPECT_EQ(Desk.Told() + BytesOf("file"),
+                          "overwrite? " + (limit == unlimited ? Example : "7 " + old));
+            }
+            EXPECT_EQ(fs::status("file").permissions(), fs::perms(0640));
+            EXPECT_EQ(BytesOf("file"), BytesOf(name));
+        }
+    }
+    EXPECT_TRUE(fs::is_symlink("link"));
+    EXPECT_EQ(std::distance(fs::directory_iterator("."), {}), 3) << "something is left over";
+}
+
+/// What a new file is to be called can be taken in the last moment; nothing is lost unasked.
+TEST_F(GameFileTest, ANewFileIsNotMadeThroughALink) {
+    fs::create_symlink("target", "link");
+    for (const bool answer : {false, true}) {
+        Desk.Answer = answer;
+        SaveGameFile("link");
+        EXPECT_EQ(Desk.Told(), "overwrite? ");
+        EXPECT_EQ(fs::exists("target"), answer);
+    }
 }
 
 TEST_F(GameFileTest, CutAnywhereTheFileEndsEarly) {

@@ -1,6 +1,6 @@
 /// Checks record files, tells their games in words and draws their positions.
 
-#include "files/NumberFile.h"
+#include "files/TextFile.h"
 #include "play/GameRecord.h"
 #include "tools/CommandLine.h"
 #include "tools/Interrupt.h"

@@ -1,0 +1,181 @@
+#include "files/TextFile.h"
+
+#include "files/OpenFile.h"
+
+#include <array>
+#include <cerrno>
+#include <cstdlib>
+#include <fcntl.h>
+#include <filesystem>
+#include <string_view>
+#include <sys/xattr.h>
+#include <unistd.h>
+
+namespace brastel {
+
+namespace {
+
+/// Survives a restart of the system.
+constexpr const char* CopyFolder = "/var/tmp";
+
+// ---- Steps that return false and set errno when they fail ----
+
+bool WriteAll(const OpenFile& file, std::string_view text) {
+    while (!text.empty()) {
+        const ssize_t written = write(file.Descriptor(), text.data(), text.size());
+        if (written < 0 && errno == EINTR) continue;
+        if (written == 0) errno = ENOSPC;
+        if (written <= 0) return false;
+        text.remove_prefix(static_cast<std::size_t>(written));
+    }
+    return true;
+}
+
+bool WriteAndClose(OpenFile& file, const std::string& text) {
+    return WriteAll(file, text) && file.Close();
+}
+
+bool GoToStart(const OpenFile& file) { return lseek(file.Descriptor(), 0, SEEK_SET) == 0; }
+
+/// Leaves the file with this size, on disk.
+bool Settle(const OpenFile& file, off_t size) {
+    return ftruncate(file.Descriptor(), size) == 0 && fsync(file.Descriptor()) == 0;
+}
+
+/// Writes over the start of the other file.
+bool CopyAll(const OpenFile& from, const OpenFile& to) {
+    if (!GoToStart(from) || !GoToStart(to)) return false;
+    std::array<char, 65536> part{};
+    while (true) {
+        const ssize_t count = read(from.Descriptor(), part.data(), part.size());
+        if (count < 0 && errno == EINTR) continue;
+        if (count <= 0) return count == 0;
+        if (!WriteAll(to, {part.data(), static_cast<std::size_t>(count)})) return false;
+    }
+}
+
+bool SyncFolder(const std::string& folder) {
+    const OpenFile file(folder, O_RDONLY | O_DIRECTORY);
+    return file.IsOpen() && fsync(file.Descriptor()) == 0;
+}
+
+/// A new file for its owner only, removed at the end unless it is kept.
+class TemporaryFile : public OpenFile {
+public:
+    explicit TemporaryFile(const std::string& folder) : TemporaryFile(folder, "/.brastel-XXXXXX") {}
+    ~TemporaryFile() {
+        const int error = errno;
+        if (IsOpen() && !IsKept) unlink(Path.c_str());
+        errno = error;
+    }
+    TemporaryFile(const TemporaryFile&) = delete;
+    TemporaryFile& operator=(const TemporaryFile&) = delete;
+
+    void Keep() { IsKept = true; }
+    bool Rename(const std::string& target) {
+        IsKept = rename(Path.c_str(), target.c_str()) == 0;
+        return IsKept;
+    }
+
+private:
+    TemporaryFile(std::string path, const std::string& name)
+        : OpenFile(mkostemp((path += name).data(), O_CLOEXEC)), Path(std::move(path)) {}
+
+    std::string Path;
+    bool IsKept = false;
+};
+
+// ---- Replacing a file ----
+
+/// Where links lead, in full; empty unless it is the file with this state, whose only name it is.
+std::string OnlyName(const std::string& path, const struct stat& state) {
+    std::error_code error;
+    const std::string name = std::filesystem::canonical(path, error).string();
+    struct stat found {};
+    const bool isName = stat(name.c_str(), &found) == 0 && found.st_dev == state.st_dev &&
+                        found.st_ino == state.st_ino && state.st_nlink == 1;
+    return isName ? name : std::string();
+}
+
+bool HasAccessList(const OpenFile& file) {
+    return fgetxattr(file.Descriptor(), "system.posix_acl_access", nullptr, 0) > 0;
+}
+
+/// The owner comes first: until the mode follows, nobody else may read the file. As after any
+/// writing, the bits that let a program run as its owner or group are gone.
+bool TakeOver(const struct stat& state, const OpenFile& file) {
+    constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
+    return fchown(file.Descriptor(), state.st_uid, state.st_gid) == 0 &&
+           fchmod(file.Descriptor(), state.st_mode & Permissions) == 0;
+}
+
+bool Replace(const std::string& path, const OpenFile& old, const std::string& text) {
+    const std::string name = OnlyName(path, old.State());
+    if (name.empty() || HasAccessList(old)) return false;
+    const std::string folder = std::filesystem::path(name).parent_path().string();
+    TemporaryFile draft(folder);
+    const bool isReady = draft.IsOpen() && WriteAll(draft, text) && !HasAccessList(draft) &&
+                         TakeOver(old.State(), draft) && fsync(draft.Descriptor()) == 0;
+    if (!isReady || !draft.Rename(name)) return false;
+    // If this fails, a power failure leaves either file, and each is whole.
+    SyncFolder(folder);
+    return true;
+}
+
+bool IsDiskFull() { return FileErrorFromSystem(errno) == FileError::DiskFull; }
+
+/// False where there is no space; true where the file system cannot tell beforehand.
+bool Reserve(const OpenFile& file, off_t size) {
+    return fallocate(file.Descriptor(), FALLOC_FL_KEEP_SIZE, 0, size) == 0 || !IsDiskFull();
+}
+
+/// Old blocks are written over before the length changes, so that putting them back needs no space.
+bool Overwrite(const std::string& path, const std::string& text) {
+    const OpenFile file(path, O_RDWR);
+    const auto newSize = static_cast<off_t>(text.size());
+    if (!file.IsOpen() || !Reserve(file, newSize)) return false;
+    const off_t size = file.State().st_size;
+    TemporaryFile copy(CopyFolder);
+    const bool isSafe =
+        size == 0 || (copy.IsOpen() && CopyAll(file, copy) && fsync(copy.Descriptor()) == 0 &&
+                      SyncFolder(CopyFolder) && GoToStart(file));
+    if (!isSafe) return false;
+    if (WriteAll(file, text) && Settle(file, newSize)) return true;
+    const int error = errno;
+    const bool isBack = (size == 0 || CopyAll(copy, file)) && Settle(file, size);
+    if (!isBack) copy.Keep();
+    errno = error;
+    return false;
+}
+
+// ---- Errors ----
+
+FileError ErrorUnless(bool isWritten) {
+    return isWritten ? FileError::None : FileErrorFromSystem(errno);
+}
+
+FileError WriteNew(const std::string& path, const std::string& text, int flag) {
+    OpenFile file(path, O_WRONLY | O_CREAT | flag);
+    if (!file.IsOpen()) return FileErrorOfOpening(path, errno);
+    return ErrorUnless(WriteAndClose(file, text));
+}
+
+}  // namespace
+
+FileError CreateTextFile(const std::string& path, const std::string& text) {
+    return WriteNew(path, text, O_EXCL);
+}
+
+FileError WriteTextFile(const std::string& path, const std::string& text) {
+    errno = 0;
+    OpenFile old(path, O_WRONLY);
+    if (!old.IsOpen() && errno == ENOENT) return WriteNew(path, text, O_TRUNC);
+    if (!old.IsOpen()) return FileErrorOfOpening(path, errno);
+    const mode_t mode = old.State().st_mode;
+    if (S_ISFIFO(mode)) return FileError::NotAFile;
+    if (!S_ISREG(mode)) return ErrorUnless(WriteAndClose(old, text));
+    const bool isDone = Replace(path, old, text) || (!IsDiskFull() && Overwrite(path, text));
+    return ErrorUnless(isDone);
+}
+
+}  // namespace brastel

@@ -1,0 +1,21 @@
+#pragma once
+
+#include "files/FileErrors.h"
+
+#include <string>
+
+/// Writing whole text files. After a failure, errno is what the system calls it, or 0 if no system
+/// call failed.
+namespace brastel {
+
+/// Writes a new file. Fails with errno EEXIST if the name exists, also as a link that leads
+/// nowhere. Another failure can leave a part of the new file behind.
+FileError CreateTextFile(const std::string& path, const std::string& text);
+
+/// Writes a file, new or not, or to a device. A failure, or the end of the program at any moment,
+/// leaves an existing file as it was: it is replaced by a new file of the same owner and mode in
+/// one step. Where that is not possible (the folder is not writable, the file has several names, an
+/// access list or a foreign owner), it is overwritten, with a copy of it in /var/tmp meanwhile.
+FileError WriteTextFile(const std::string& path, const std::string& text);
+
+}  // namespace brastel
