@@ -34,7 +34,7 @@ FileError FileErrorFromSystem(int systemError) {
 }
 
 std::string_view FileErrorInWords(FileError error) {
-    constexpr std::array<std::string_view, 10> Words{
+    constexpr std::array<std::string_view, 11> Words{
         "",
         "there is no such file",
         "the path cannot be followed, or the file may not be opened",
@@ -45,6 +45,7 @@ std::string_view FileErrorInWords(FileError error) {
         "the disk is full",
         "not an ordinary file",
         "the system failed while reading or writing",
+        "the file is longer than 1 MB",
     };
     return Words[static_cast<std::size_t>(error)];
 }

@@ -23,6 +23,8 @@ enum class FileError {
     NotAFile = 8,
     /// Anything else that the system reports.
     SystemFailure = 9,
+    /// Longer than MaxFileSize.
+    FileTooLong = 10,
 };
 
 /// The cause behind a system error number (errno) of opening, reading or writing a file.

@@ -1,5 +1,6 @@
 #include "files/NumberFile.h"
 
+#include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <fcntl.h>
@@ -7,6 +8,7 @@
 #include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
+#include <utility>
 
 namespace brastel {
 
@@ -38,6 +40,8 @@ NumberReader::NumberReader(const std::string& path) {
         FailBy(errno, FileErrorOfOpening(path, errno));
     } else if (!S_ISREG(state.st_mode)) {
         Fail(FileError::NotAFile);
+    } else if (std::cmp_greater(state.st_size, MaxFileSize)) {
+        Fail(FileError::FileTooLong);
     }
 }
 
@@ -45,12 +49,13 @@ int NumberReader::Peek() {
     if (Used == Filled) {
         ssize_t count = 0;
         do {
-            count = read(File->Descriptor(), Buffer.data(), Buffer.size());
+            count = read(File->Descriptor(), Buffer.data(), std::min(Buffer.size(), Unread));
         } while (count < 0 && errno == EINTR);
         if (count < 0) FailBy(errno, FileErrorFromSystem(errno));
         if (count <= 0) return EndOfData;
         Used = 0;
         Filled = static_cast<std::size_t>(count);
+        Unread -= Filled;
     }
     return Buffer[Used];
 }

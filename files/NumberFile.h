@@ -12,9 +12,12 @@
 /// Text files of 16-bit numbers.
 namespace brastel {
 
+/// Bytes of the longest file that is read. A longer one would only keep the program busy.
+constexpr std::size_t MaxFileSize = 1'000'000;
+
 /// Reads numbers one by one, from ordinary files only: devices and pipes are refused at once and
-/// never waited for. However large the file or a token in it, only a small buffer is held, and
-/// nothing is read beyond the buffer in which the value asked for ends.
+/// never waited for. A file longer than MaxFileSize is refused, too; if it grows later, its data
+/// end there.
 class NumberReader {
 public:
     /// Opens the file; Error() tells whether that worked.
@@ -45,6 +48,7 @@ private:
     std::array<unsigned char, 4096> Buffer{};
     std::size_t Used = 0;
     std::size_t Filled = 0;
+    std::size_t Unread = MaxFileSize;
     std::optional<OpenFile> File;
     FileError Failure = FileError::None;
     int SystemFailure = 0;
