@@ -6,6 +6,7 @@
 #include "files/TextFile.h"
 
 #include <cerrno>
+#include <filesystem>
 
 namespace brastel {
 
@@ -129,6 +130,10 @@ GameReading ReadGame(NumberReader& file) {
     return IsGood(reading) ? ReadEntries(file, entries) : reading;
 }
 
+/// The start that the file LoadedFileName gave. Empty after a failed load and after a save to that
+/// file: then what it holds is not what was read.
+std::string StartRead;
+
 }  // namespace
 
 void SaveGameFile(const std::string& path) {
@@ -139,6 +144,8 @@ void SaveGameFile(const std::string& path) {
         error = WriteTextFile(path, text);
     }
     if (error != FileError::None) ReportFileError(error);
+    std::error_code ignored;
+    if (std::filesystem::equivalent(path, LoadedFileName, ignored)) StartRead.clear();
 }
 
 GameReading ReadGameFile(const std::string& path) {
@@ -151,12 +158,14 @@ GameReading ReadGameFile(const std::string& path) {
 
 void LoadGameFile(const std::string& path) {
     FileWindows->CloseMainWindow();
-    if (path == LoadedFileName) {
+    if (path == LoadedFileName && StartText() == StartRead) {
         BranchMark = 0;
     } else if (const FileError error = ReadGameFile(path).Error; error != FileError::None) {
+        StartRead.clear();
         ReportFileError(error);
     } else {
         LoadedFileName = path;
+        StartRead = StartText();
     }
     FileWindows->OpenMainWindow();
 }

@@ -10,7 +10,7 @@
 /// Games saved as text files. FORMAT.md beside this file describes them.
 namespace brastel {
 
-/// Full path of the file read last, empty until one has been read completely.
+/// Full path of the file that was read completely last; empty before.
 extern std::string LoadedFileName;
 
 /// Writes the game: counts, start tables and the entries played. Asks before it overwrites an
@@ -36,8 +36,8 @@ struct GameReading {
 GameReading ReadGameFile(const std::string& path);
 
 /// Reads a game into the start tables and the loaded record, between taking the main window down
-/// and building it again. The file read last is not read again. A failure is shown to the user;
-/// what was read before it stays.
+/// and building it again. The file LoadedFileName is not read again while its game stands. A
+/// failure is shown to the user; what was read before it stays.
 void LoadGameFile(const std::string& path);
 
 }  // namespace brastel

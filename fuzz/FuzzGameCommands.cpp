@@ -101,12 +101,9 @@ void Save(Arguments a) {
     saved.Count = ToInt16(Pos.MoveCount - 1);
 }
 
-/// The file loaded last is not read again.
 void Load(Arguments a) {
     const SavedGame& saved = SavedOf(a.A);
-    const bool isRead = LoadedFileName != saved.File.Path();
-    const bool isLoaded = LoadFrom(saved.File, Files);
-    if (!isRead || !isLoaded) return;
+    if (!LoadFrom(saved.File, Files)) return;
     Require(LoadedCount == saved.Count, "a saved game has another length");
     for (int k = 1; k <= LoadedCount; ++k) {
         Require(LoadedFrom[k] == saved.From[k] && LoadedTo[k] == saved.To[k],
