@@ -127,6 +127,7 @@ TEST_F(GameFileTest, AFailedSaveLeavesTheOldFileWhole) {
             WriteBytes("file", old);
             fs::permissions("file", fs::perms(0640));
             if (name == "name" && !fs::exists(name)) fs::create_hard_link("file", name);
+            std::ifstream reader("file");
             for (const rlim_t limit : {rlim_t{0}, rlim_t{100}, unlimited}) {
                 size.rlim_cur = limit;
                 setrlimit(RLIMIT_FSIZE, &size);
@@ -138,6 +139,9 @@ TEST_F(GameFileTest, AFailedSaveLeavesTheOldFileWhole) {
             }
             EXPECT_EQ(fs::status("file").permissions(), fs::perms(0640));
             EXPECT_EQ(BytesOf("file"), BytesOf(name));
+            // Who has opened the file before still reads the old one.
+            const std::string read{std::istreambuf_iterator<char>(reader), {}};
+            EXPECT_EQ(read, name == "name" ? Example : old);
         }
     }
     EXPECT_TRUE(fs::is_symlink("link"));
