@@ -27,5 +27,5 @@ only_at() {
     [ "$(sort <<<"$found")" = "$(printf '%s\n' "${@:2}")" ] ||
         fail "no $1 at: $found"
 }
-only_at '^ro' /tmp "${Folder// /\\040}/to\\040keep"
+only_at '^ro' /tmp "${Folder// /\\040}/to\\040keep" /var/tmp
 only_at nodev /dev/full /dev/null /dev/random /dev/urandom /dev/zero

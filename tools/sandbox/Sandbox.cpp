@@ -89,9 +89,11 @@ void PutBack(const KeptPlace& place) {
     close(place.Mounts);
 }
 
-void MakeTemporaryFolder() {
-    Require(mount("brastel", Temporary, "tmpfs", MS_NOSUID | MS_NODEV, "mode=1777,size=512m") == 0,
-            Temporary);
+void MakeTemporaryFolders() {
+    for (const auto* folder : {Temporary, "/var/tmp"}) {
+        Require(mount("brastel", folder, "tmpfs", MS_NOSUID | MS_NODEV, "mode=1777,size=512m") == 0,
+                folder);
+    }
     // An X server can make its folder only if root runs it.
     fs::create_directory("/tmp/.X11-unix");
     fs::permissions("/tmp/.X11-unix", fs::perms::all | fs::perms::sticky_bit);
@@ -109,7 +111,7 @@ bool CloseOff() {
     const fs::path folder = fs::current_path();
     const std::vector<KeptPlace> places = PlacesToKeep();
     if (!SetAttributes(AT_FDCWD, "/", ReadOnly | NoDevices)) return false;
-    MakeTemporaryFolder();
+    MakeTemporaryFolders();
     for (const KeptPlace& place : places) PutBack(place);
     // The working folder, too, has to be the one that was put back.
     if (chdir(folder.c_str()) != 0) Require(chdir(Temporary) == 0, Temporary);
