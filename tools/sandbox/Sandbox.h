@@ -3,7 +3,7 @@
 namespace brastel {
 
 /// Takes from this process and those it starts the means to change any file outside, even if the
-/// program is wrong: all file systems become read-only, and /tmp an empty one in memory, which goes
+/// program is wrong: all file systems become read-only, and /tmp and /var/tmp empty ones in memory, which go
 /// with the last of these processes and holds the home folder as well. Devices cannot be opened but
 /// those that lead nowhere, as /dev/null. Only the folder that the environment variable
 /// BRASTEL_WRITABLE names, if any, stays as it is.
