@@ -52,7 +52,7 @@ refuse 2 "--save" --save ""
 refuse 2 "flag override" --ladder=false
 refuse 2 "file: Not a directory" --save file
 refuse 2 "none/games: No such file or directory" --save none/games
-refuse 2 "none/t: No such file or directory" --ladder --table none/t
+refuse 2 'no\x1b\xc2\x9bne/t: No such file or directory' --ladder --table $'no\e\xc2\x9bne/t'
 refuse 2 "none/c: No such file or directory" --ladder --chart none/c
 refuse 2 "cannot read none" --ladder --join none
 refuse 2 "cannot read ." --ladder --join .
@@ -94,6 +94,11 @@ expect 0 --ladder --to 3 --games 4 --table table.md --chart chart.svg
 grep -q '</svg>' chart.svg || fail "$(cat chart.svg)"
 expect 0 --ladder --join table.md
 cmp out table.md || fail "a ladder is not read as it was written"
+status=0
+told=$( (ulimit -f 0; exec "$Program" --ladder --to 2 --games 2 --table table.md 2>&1) ) || status=$?
+[ "$status $told" = "2 brastel-match: cannot write table.md: File too large" ] || fail "$status $told"
+cmp out table.md || fail "an old table is lost"
+"$Program" --ladder --join table.md --table /dev/stdout | cmp - table.md || fail "no table in a pipe"
 
 # ---- Interrupts: the results so far ----
 

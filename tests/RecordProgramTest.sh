@@ -41,9 +41,7 @@ expect 2 '' '*see --help' --at -1 game
 expect 2 '' '*see --help' --at 201 game
 expect 2 '' '*see --help' --svg game
 expect 2 '' '*see --help' --moves --at 1 game
-expect 2 '' '*see --help' --nonsense game
 expect 2 '' '*see --help' --force game
-expect 2 '' '*see --help' --moves=false game
 expect 2 '' '*see --help'
 expect 2 '' '*name one file' --at 1 game broken
 expect 2 '' '*old: exists; --force overwrites it' --at 1 -o old game
@@ -70,6 +68,21 @@ status=0
 "$Program" game >/dev/full 2>err || status=$?
 [ $status -eq 2 ] && grep -q 'standard output' err || { echo "A full disk was not told."; Faults=1; }
 "$Program" --help >/dev/full 2>err && { echo "Help on a full disk."; Faults=1; }
+# A record ends within a megabyte; a gigabyte took many seconds, and no interrupt ended them.
+truncate -s 1G long
+expect 1 'long:1: error 10: *' '' long
+# A name can hold what a terminal obeys, such as the line of another verdict.
+name=$'a\e[2J\n\x9b\xe2\x80\xaeb'
+shown='a\\x1b\[2J\\x0a\\x9b\\xe2\\x80\\xaeb'
+expect 2 '' "brastel-record: $shown: No such file or directory" "$name"
+expect 2 '' "brastel-record: *--$shown; see --help" "--$name" game
+cp game "$name"
+expect 0 "$shown: 3 entries*" '' "$name"
+expect 2 '' "brastel-record: $shown: exists*" -o "$name" game
+status=0
+told=$( (ulimit -f 0; exec "$Program" --force -o old game 2>&1) ) || status=$?
+[ "$status $told" = '2 brastel-record: old: File too large' ] && cmp -s old new ||
+    { echo "A file that could not grow: $status $told"; Faults=1; }
 cp game '[game,broken]'
 expect 0 './\[game,broken\]: 3 entries, Blue to move' '' '[game,broken]'
 exit $((Faults > 0))

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "tools/ExitStatus.h"
+#include "tools/Printable.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -33,7 +34,11 @@ inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* co
         app.parse(arguments);
         return std::nullopt;
     } catch (const CLI::ParseError& error) {
-        if (app.exit(error) != 0) return CannotDo;
+        if (error.get_exit_code() != 0) {
+            std::cerr << app.get_name() << ": " << Printable(error.what()) << "; see --help\n";
+            return CannotDo;
+        }
+        app.exit(error);
     }
     if (std::cout.flush()) return Done;
     std::cerr << app.get_name() << ": cannot write standard output: " << std::strerror(errno)

@@ -1,7 +1,9 @@
 /// Plays strengths of the computer player against each other.
 
+#include "files/TextFile.h"
 #include "tools/ExitStatus.h"
 #include "tools/Interrupt.h"
+#include "tools/Printable.h"
 #include "tools/match/LadderChart.h"
 #include "tools/match/MatchTable.h"
 #include "tools/match/Options.h"
@@ -11,6 +13,7 @@
 #include <algorithm>
 #include <array>
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <exception>
@@ -23,7 +26,7 @@ namespace {
 using namespace brastel;
 
 int Complain(const std::string& what, int status) {
-    std::fprintf(stderr, "brastel-match: %s\n", what.c_str());
+    std::fprintf(stderr, "brastel-match: %s\n", Printable(what).c_str());
     return status;
 }
 
@@ -54,8 +57,12 @@ bool IsSameFile(const std::string& a, const std::string& b) {
     return fs::equivalent(a, b, ignored) || place(a) == place(b);
 }
 
-/// Standard output for an empty path.
+/// Replaces a file whole, or writes to standard output if the path is empty, to a pipe or a device.
 int WriteText(const std::string& path, const std::string& text) {
+    std::error_code ignored;
+    if (!path.empty() && !std::filesystem::is_other(path, ignored)) {
+        return WriteTextFile(path, text) == FileError::None ? Done : CannotWrite(path);
+    }
     std::FILE* const file = path.empty() ? stdout : std::fopen(path.c_str(), "w");
     if (file == nullptr) return CannotWrite(path);
     const bool isWritten = std::fputs(text.c_str(), file) >= 0 && std::fflush(file) == 0;
@@ -238,6 +245,8 @@ int Main(int count, char** texts) {
 }  // namespace
 
 int main(int count, char** texts) {
+    // Writing past a size limit is an error to report, not the end.
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         return Main(count, texts);
     } catch (const std::exception& error) {

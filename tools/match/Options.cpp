@@ -160,10 +160,6 @@ public:
 void AddHelp(CLI::App& app) {
     app.formatter(std::make_shared<HelpText>());
     app.footer(Footer);
-    app.failure_message([](const CLI::App* program, const CLI::Error& error) {
-        return program->get_name() + ": " + error.what() + "\nSee " + program->get_name() +
-               " --help.\n";
-    });
     app.set_help_flag("-h,--help", "print this text")->group("Other");
     app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "print the version")
         ->group("Other");

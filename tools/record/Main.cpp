@@ -9,6 +9,7 @@
 #include "tools/record/SvgBoard.h"
 
 #include <cerrno>
+#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -44,7 +45,7 @@ struct Options {
 };
 
 void Complain(const std::string& words) {
-    std::fprintf(stderr, "brastel-record: %s\n", words.c_str());
+    std::fprintf(stderr, "brastel-record: %s\n", Printable(words).c_str());
 }
 
 // ---- Arguments ----
@@ -70,9 +71,6 @@ void Declare(CLI::App& app, Options& options) {
     app.set_version_flag("--version", "brastel-record " BRASTEL_VERSION, "show the version");
     app.set_help_flag("-h,--help", "show this text");
     app.footer(Examples);
-    app.failure_message([](const CLI::App*, const CLI::Error& error) {
-        return "brastel-record: " + std::string(error.what()) + "; see --help\n";
-    });
 }
 
 /// What the options ask for together; empty if that is possible.
@@ -94,7 +92,7 @@ std::string FirstContradiction(const Options& options) {
 /// Gathers what is to be written to a file; otherwise prints at once.
 class Output {
 public:
-    explicit Output(std::string path) : Path(std::move(path)) {}
+    explicit Output(const Options& options) : Path(options.Output), Force(options.Force) {}
 
     void Write(const std::string& text) {
         if (!Path.empty()) {
@@ -113,7 +111,7 @@ public:
     /// Where nothing could be drawn or told, an old file stays as it is.
     bool Finish() const {
         if (Gathered.empty()) return true;
-        const FileError error = WriteTextFile(Path, Gathered);
+        const FileError error = (Force ? WriteTextFile : CreateTextFile)(Path, Gathered);
         if (error == FileError::None) return true;
         Complain(Path + ": " + FailureInWords(error, errno));
         return false;
@@ -121,6 +119,7 @@ public:
 
 private:
     std::string Path;
+    bool Force;
     std::string Gathered;
     bool Failed = false;
 };
@@ -171,7 +170,7 @@ int DoFile(const Options& options, const std::string& path, Output& output) {
 }
 
 int Run(const Options& options) {
-    Output output(options.Output);
+    Output output(options);
     int status = Done;
     std::size_t done = 0;
     while (done < options.Files.size() && Interrupted == 0 && !output.HasFailed()) {
@@ -201,6 +200,8 @@ int Main(int count, char** texts) {
 }  // namespace
 
 int main(int count, char** texts) {
+    // Writing past a size limit is an error to report, not the end.
+    std::signal(SIGXFSZ, SIG_IGN);
     try {
         return Main(count, texts);
     } catch (const std::exception& error) {

@@ -2,6 +2,7 @@
 
 #include "core/WinTest.h"
 #include "play/Words.h"
+#include "tools/Printable.h"
 #include "tools/record/TextBoard.h"
 
 #include <cstring>
@@ -95,9 +96,10 @@ bool IsUnreadable(const RecordedGame& game) {
 }
 
 std::string Verdict(const RecordedGame& game) {
-    if (IsUnreadable(game)) return game.Path + ": " + FailureInWords(game.Error, game.SystemError);
+    const std::string path = Printable(game.Path);
+    if (IsUnreadable(game)) return path + ": " + FailureInWords(game.Error, game.SystemError);
     const std::string cause(game.Cause);
-    const std::string place = game.Path + ':' + std::to_string(game.Line) + ": ";
+    const std::string place = path + ':' + std::to_string(game.Line) + ": ";
     if (game.Error != FileError::None) {
         return place + "error " + std::to_string(static_cast<int>(game.Error)) + ": " + cause;
     }
@@ -107,7 +109,7 @@ std::string Verdict(const RecordedGame& game) {
                ") breaks the rules: " + cause;
     }
     const int entries = static_cast<int>(game.Entries.size());
-    return game.Path + ": " + Counted(entries, "entry", "entries") + ", " + Outcome(game);
+    return path + ": " + Counted(entries, "entry", "entries") + ", " + Outcome(game);
 }
 
 std::string MovesInWords(const RecordedGame& game) {
