@@ -7,6 +7,7 @@
 #include <cstdlib>
 #include <fcntl.h>
 #include <filesystem>
+#include <optional>
 #include <string_view>
 #include <sys/xattr.h>
 #include <unistd.h>
@@ -15,7 +16,7 @@ namespace brastel {
 
 namespace {
 
-/// Survives a restart of the system.
+/// For copies of files in folders that may not be written to. It survives a restart of the system.
 constexpr const char* CopyFolder = "/var/tmp";
 
 // ---- Steps that return false and set errno when they fail ----
@@ -54,9 +55,13 @@ bool CopyAll(const OpenFile& from, const OpenFile& to) {
     }
 }
 
-bool SyncFolder(const std::string& folder) {
-    const OpenFile file(folder, O_RDONLY | O_DIRECTORY);
-    return file.IsOpen() && fsync(file.Descriptor()) == 0;
+std::string FolderOf(const std::string& path) {
+    return std::filesystem::path(path).parent_path().string();
+}
+
+bool SyncFolderOf(const std::string& path) {
+    const OpenFile folder(FolderOf(path), O_RDONLY | O_DIRECTORY);
+    return folder.IsOpen() && fsync(folder.Descriptor()) == 0;
 }
 
 /// A new file for its owner only, removed at the end unless it is kept.
@@ -71,6 +76,7 @@ public:
     TemporaryFile(const TemporaryFile&) = delete;
     TemporaryFile& operator=(const TemporaryFile&) = delete;
 
+    const std::string& Name() const { return Path; }
     void Keep() { IsKept = true; }
     bool Rename(const std::string& target) {
         IsKept = rename(Path.c_str(), target.c_str()) == 0;
@@ -87,14 +93,17 @@ private:
 
 // ---- Replacing a file ----
 
-/// Where links lead, in full; empty unless it is the file with this state, whose only name it is.
-std::string OnlyName(const std::string& path, const struct stat& state) {
+/// The full path without links; empty if there is none.
+std::string RealName(const std::string& path) {
     std::error_code error;
-    const std::string name = std::filesystem::canonical(path, error).string();
+    return std::filesystem::canonical(path, error).string();
+}
+
+/// True if the file with this state has this name and no other.
+bool IsOnlyName(const std::string& name, const struct stat& state) {
     struct stat found {};
-    const bool isName = stat(name.c_str(), &found) == 0 && found.st_dev == state.st_dev &&
-                        found.st_ino == state.st_ino && state.st_nlink == 1;
-    return isName ? name : std::string();
+    return stat(name.c_str(), &found) == 0 && found.st_dev == state.st_dev &&
+           found.st_ino == state.st_ino && state.st_nlink == 1;
 }
 
 bool HasAccessList(const OpenFile& file) {
@@ -110,17 +119,18 @@ bool TakeOver(const struct stat& state, const OpenFile& file) {
 }
 
 bool Replace(const std::string& path, const OpenFile& old, const std::string& text) {
-    const std::string name = OnlyName(path, old.State());
-    if (name.empty() || HasAccessList(old)) return false;
-    const std::string folder = std::filesystem::path(name).parent_path().string();
-    TemporaryFile draft(folder);
+    const std::string name = RealName(path);
+    if (!IsOnlyName(name, old.State()) || HasAccessList(old)) return false;
+    TemporaryFile draft(FolderOf(name));
     const bool isReady = draft.IsOpen() && WriteAll(draft, text) && !HasAccessList(draft) &&
                          TakeOver(old.State(), draft) && fsync(draft.Descriptor()) == 0;
     if (!isReady || !draft.Rename(name)) return false;
     // If this fails, a power failure leaves either file, and each is whole.
-    SyncFolder(folder);
+    SyncFolderOf(name);
     return true;
 }
+
+// ---- Overwriting a file ----
 
 bool IsDiskFull() { return FileErrorFromSystem(errno) == FileError::DiskFull; }
 
@@ -129,21 +139,26 @@ bool Reserve(const OpenFile& file, off_t size) {
     return fallocate(file.Descriptor(), FALLOC_FL_KEEP_SIZE, 0, size) == 0 || !IsDiskFull();
 }
 
+/// Copies the file to the disk, into its own folder if possible.
+bool CopyToDisk(const OpenFile& file, const std::string& name, std::optional<TemporaryFile>& copy) {
+    if (!name.empty()) copy.emplace(FolderOf(name));
+    if (!copy || !copy->IsOpen()) copy.emplace(CopyFolder);
+    return copy->IsOpen() && CopyAll(file, *copy) && fsync(copy->Descriptor()) == 0 &&
+           SyncFolderOf(copy->Name());
+}
+
 /// Old blocks are written over before the length changes, so that putting them back needs no space.
 bool Overwrite(const std::string& path, const std::string& text) {
     const OpenFile file(path, O_RDWR);
     const auto newSize = static_cast<off_t>(text.size());
     if (!file.IsOpen() || !Reserve(file, newSize)) return false;
     const off_t size = file.State().st_size;
-    TemporaryFile copy(CopyFolder);
-    const bool isSafe =
-        size == 0 || (copy.IsOpen() && CopyAll(file, copy) && fsync(copy.Descriptor()) == 0 &&
-                      SyncFolder(CopyFolder) && GoToStart(file));
-    if (!isSafe) return false;
-    if (WriteAll(file, text) && Settle(file, newSize)) return true;
+    std::optional<TemporaryFile> copy;
+    if (size > 0 && !CopyToDisk(file, RealName(path), copy)) return false;
+    if (GoToStart(file) && WriteAll(file, text) && Settle(file, newSize)) return true;
     const int error = errno;
-    const bool isBack = (size == 0 || CopyAll(copy, file)) && Settle(file, size);
-    if (!isBack) copy.Keep();
+    const bool isBack = (!copy || CopyAll(*copy, file)) && Settle(file, size);
+    if (copy && !isBack) copy->Keep();
     errno = error;
     return false;
 }

@@ -12,10 +12,10 @@ namespace brastel {
 /// nowhere. Another failure can leave a part of the new file behind.
 FileError CreateTextFile(const std::string& path, const std::string& text);
 
-/// Writes a file, new or not, or to a device. A failure, or the end of the program at any moment,
-/// leaves an existing file as it was: it is replaced by a new file of the same owner and mode in
-/// one step. Where that is not possible (the folder is not writable, the file has several names, an
-/// access list or a foreign owner), it is overwritten, with a copy of it in /var/tmp meanwhile.
+/// Writes a file, new or not, or to a device. An existing file is replaced in one step by a new one
+/// with its owner and mode: it is whole even if the program is killed. Where that is not possible
+/// (the folder is not writable, the file has several names, an access list or a foreign owner), it
+/// is overwritten: a failure puts its content back, and if the program is killed, a copy is on disk.
 FileError WriteTextFile(const std::string& path, const std::string& text);
 
 }  // namespace brastel
