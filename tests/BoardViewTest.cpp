@@ -14,10 +14,9 @@ constexpr QRgb White = qRgb(255, 255, 255);
 
 using BoardViewTest = WindowTest;
 
-/// The first point of a colour on the way from a logical point, in device pixels.
-QPoint FirstOf(QRgb color, const QImage& picture, QPoint start, QPoint step) {
-    QPoint point = (QPointF(start) * picture.devicePixelRatio()).toPoint();
-    while (picture.valid(point) && picture.pixel(point) != color) point += step;
+/// The first black point on a way over the picture, all in device pixels.
+QPoint FirstBlack(const QImage& picture, QPoint point, QPoint step) {
+    while (picture.valid(point) && picture.pixel(point) != Black) point += step;
     return point;
 }
 
@@ -62,15 +61,14 @@ TEST_F(BoardViewTest, LinesAreSharp) {
 TEST_F(BoardViewTest, TheGoalPostsStickOutAlike) {
     OpenForTwo(3, 68, 44);
     const QImage picture = Picture();
+    const double ratio = picture.devicePixelRatio();
     const QPoint right(1, 0);
-    // Above the field's top line and in the squares below, from the middle of the goal.
-    const int post = FirstOf(Black, picture, {80, 50}, {0, 1}).y();
+    // From the middle of the goal to both sides: in the field's top line and in the squares below.
     const auto edge = [&](int y, QPoint step) {
-        QPoint point(qRound(180 * picture.devicePixelRatio()) + 10 * step.x(), y);
-        while (picture.pixel(point) != Black) point += step;
-        return point.x();
+        return FirstBlack(picture, QPoint(qRound(180 * ratio), y) + 10 * step, step).x();
     };
-    const int square = post + qRound(10 * picture.devicePixelRatio());
+    const int post = FirstBlack(picture, (QPointF(80, 50) * ratio).toPoint(), {0, 1}).y();
+    const int square = post + qRound(10 * ratio);
     EXPECT_EQ(edge(post, -right) - edge(square, -right), edge(square, right) - edge(post, right));
 }
 

@@ -21,6 +21,7 @@ TEST_F(MainWindowTest, TheFirstWindowIsAnEmptyFreeSetup) {
         EXPECT_FALSE(IsShown(hidden)) << hidden;
     }
     EXPECT_TRUE(IsItemChecked("mnu_Easy"));
+    EXPECT_EQ(Control<QAction>("mnu_Easy")->actionGroup(), nullptr) << "it would show bullets";
     ClickButton("btn_Hint");
     EXPECT_EQ(Pos.MoveCount, 1) << "there is nobody to play for yet";
 }
@@ -38,6 +39,8 @@ TEST_F(MainWindowTest, ThePieceNumberDialogChangesTheLayout) {
                                                    {"close box", 2},     {"btn_GameSize6", 0}};
     for (const auto& [button, count] : Choices) {
         ChooseFromMenu("mnu_Level", "mnu_Master");
+        ChooseFromMenu("mnu_Level", "mnu_Master");
+        EXPECT_TRUE(IsItemChecked("mnu_Master"));
         ChoosePieceNumber(button);
         EXPECT_EQ(Pos.RedCount, count) << button;
         EXPECT_EQ(Pos.BlueCount, count) << button;

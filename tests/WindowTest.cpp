@@ -8,6 +8,8 @@
 #include <QMenuBar>
 #include <QPointer>
 
+#include <algorithm>
+
 namespace brastel {
 
 WindowTest::WindowTest() : Form(Window.centralWidget()) { Open(FreeSetupLayout); }
@@ -125,6 +127,12 @@ void WindowTest::ChoosePieceNumber(const char* button) {
                         ClickIn(dialog, button);
                     }});
     EXPECT_TRUE(Window.isVisible());
+}
+
+bool WindowTest::IsItemChecked(const char* name) {
+    const QList<QAction*> items = Control<QMenu>("mnu_Level")->actions();
+    const auto checked = std::ranges::count_if(items, &QAction::isChecked);
+    return checked == 1 && Control<QAction>(name)->isChecked();
 }
 
 void WindowTest::ExpectViewShowsPosition() { EXPECT_EQ(FirstWrongShown(Picture()), ""); }

@@ -4,9 +4,9 @@
 #include "files/FileView.h"
 #include "play/GameView.h"
 
-#include <QActionGroup>
 #include <QLabel>
 #include <QMainWindow>
+#include <QMenu>
 #include <QPushButton>
 
 #include <array>
@@ -81,7 +81,7 @@ private:
     MouseInput* Mouse = nullptr;
     KeyboardInput* Keyboard = nullptr;
     Announcer* Voice = nullptr;
-    QActionGroup* Levels = nullptr;
+    QMenu* Levels = nullptr;
     bool Closing = false;
 
     QPushButton* btn_Forward = nullptr;

@@ -59,44 +59,42 @@ void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) 
     }
 }
 
-void AddLevel(QMenu& menu, QActionGroup& levels, std::string_view name, std::string_view caption,
-              Int16 level) {
-    QAction* action = menu.addAction(QString::fromUtf8(caption.data()));
+void AddLevel(QMenu& levels, std::string_view name, std::string_view caption, Int16 level) {
+    QAction* action = levels.addAction(QString::fromUtf8(caption.data()));
     action->setObjectName(QString::fromUtf8(name.data()));
     action->setCheckable(true);
     action->setData(level);
-    levels.addAction(action);
     QObject::connect(action, &QAction::triggered, &levels, [level, &levels] {
         SetLevel(level);
         CheckLevel(levels, Level);
     });
 }
 
-QActionGroup* AddLevels(QMenu& menu) {
-    auto* levels = new QActionGroup(&menu);
-    AddLevel(menu, *levels, "mnu_TwoPlayer", "&Two Player", TwoPlayerLevel);
-    AddSeparator(menu, "mnu_TwoSep");
+void AddLevels(QMenu& levels) {
+    AddLevel(levels, "mnu_TwoPlayer", "&Two Player", TwoPlayerLevel);
+    AddSeparator(levels, "mnu_TwoSep");
     for (const Strength& strength : Strengths) {
-        AddLevel(menu, *levels, strength.Item, strength.Caption, strength.Depth);
+        AddLevel(levels, strength.Item, strength.Caption, strength.Depth);
     }
-    return levels;
 }
 
 }  // namespace
 
-QActionGroup* BuildMenus(MainWindow& window) {
+QMenu* BuildMenus(MainWindow& window) {
     // In the window on every desktop: its height belongs to the window's.
     window.menuBar()->setNativeMenuBar(false);
     window.menuBar()->setPalette(QPalette(WindowGround));
     AddItems(*AddMenu(window, "mnu_Options", "&Options"), window, OptionsItems);
-    QActionGroup* levels = AddLevels(*AddMenu(window, "mnu_Level", "&Level"));
+    QMenu* levels = AddMenu(window, "mnu_Level", "&Level");
+    AddLevels(*levels);
     AddItems(*AddMenu(window, "mnu_Help", "&Help"), window, HelpItems);
     return levels;
 }
 
-void CheckLevel(const QActionGroup& levels, Int16 level) {
+/// No exclusive group of actions does this: it would show bullets instead of check marks.
+void CheckLevel(const QMenu& levels, Int16 level) {
     for (QAction* action : levels.actions()) {
-        if (action->data().toInt() == level) action->setChecked(true);
+        if (action->isCheckable()) action->setChecked(action->data().toInt() == level);
     }
 }
 

@@ -2,17 +2,16 @@
 
 #include "core/Numbers.h"
 
-#include <QActionGroup>
+#include <QMenu>
 
 namespace brastel {
 
 class MainWindow;
 
-/// Builds the window's menu bar and connects every item with its command. Returns the group of the
-/// Level items, of which exactly one is checked.
-QActionGroup* BuildMenus(MainWindow& window);
+/// Builds the window's menu bar and connects every item with its command. Returns the Level menu.
+QMenu* BuildMenus(MainWindow& window);
 
-/// Puts the check mark on the item of a level, 0 to 11, without choosing it.
-void CheckLevel(const QActionGroup& levels, Int16 level);
+/// Puts the check mark on the item of a level, 0 to 11, alone, without choosing it.
+void CheckLevel(const QMenu& levels, Int16 level);
 
 }  // namespace brastel
