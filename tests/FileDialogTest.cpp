@@ -265,8 +265,7 @@ TEST_F(FileDialogTest, TheRulesAreShownLineByLine) {
         EXPECT_EQ(picture, first);
         QTest::keyClick(dialog.windowHandle(), Qt::Key_Escape);
         EXPECT_TRUE(dialog.isVisible());
-        ClickIn(dialog, "btn_OK");
-        EXPECT_FALSE(dialog.isVisible());
+        PressByEnter(dialog, "btn_OK");
     };
     ChooseAndAnswer("mnu_Help", "mnu_Rules", {look});
     ChooseAndAnswer("mnu_Help", "mnu_Rules", {look});

@@ -111,12 +111,21 @@ void WindowTest::ChooseAndAnswer(const char* menu, const char* item, std::vector
 
 void WindowTest::ClickIn(QWidget& dialog, const char* name) {
     auto* control = dialog.findChild<QWidget*>(name);
-    if (control == nullptr) {
+    const QPoint centre = control->mapTo(&dialog, control->rect().center());
+    QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, centre);
+}
+
+void WindowTest::PressByEnter(QWidget& dialog, const char* name) {
+    auto* button = dialog.findChild<QPushButton*>(name);
+    if (button == nullptr) {
         dialog.close();
         return;
     }
-    const QPoint centre = control->mapTo(&dialog, control->rect().center());
-    QTest::mouseClick(dialog.windowHandle(), Qt::LeftButton, {}, centre);
+    ASSERT_TRUE(QTest::qWaitForWindowActive(&dialog));
+    EXPECT_EQ(dialog.focusWidget()->objectName(), "btn_OK");
+    button->setFocus();
+    EXPECT_FALSE(button->isDefault());
+    QTest::keyClick(dialog.windowHandle(), Qt::Key_Return);
 }
 
 void WindowTest::ChoosePieceNumber(const char* button) {
@@ -124,7 +133,7 @@ void WindowTest::ChoosePieceNumber(const char* button) {
                         EXPECT_FALSE(Window.isVisible());
                         EXPECT_EQ(dialog.windowTitle(), "About Orvel Geme");
                         EXPECT_EQ(dialog.size(), QSize(477, 353));
-                        ClickIn(dialog, button);
+                        PressByEnter(dialog, button);
                     }});
     EXPECT_TRUE(Window.isVisible());
 }

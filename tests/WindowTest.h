@@ -45,8 +45,11 @@ protected:
     void ChooseAndAnswer(const char* menu, const char* item, std::vector<Answer> answers);
     /// Chooses Change Piece Number and leaves the dialog by the named button.
     void ChoosePieceNumber(const char* button);
-    /// Clicks a control of a dialog with the mouse; closes the dialog if it has no such control.
+    /// Clicks a control of a dialog with the mouse.
     static void ClickIn(QWidget& dialog, const char* name);
+    /// Enter on a button, which in the piece-number dialog once pressed OK. Closes a dialog without
+    /// such a button.
+    static void PressByEnter(QWidget& dialog, const char* name);
 
     // ---- What the window shows ----
     template <typename T>

@@ -1,12 +1,12 @@
 #include "ui/PieceNumberDialog.h"
 
 #include "core/StartPosition.h"
+#include "ui/EnterButton.h"
 #include "ui/Icon.h"
 #include "ui/Layout.h"
 
 #include <QLabel>
 #include <QPainter>
-#include <QPushButton>
 
 namespace brastel {
 
@@ -75,9 +75,8 @@ void PieceNumberDialog::AddLabels() {
 
 void PieceNumberDialog::AddNumberButtons() {
     for (int layout = 0; layout < LayoutCount; ++layout) {
-        auto* button = new QPushButton(QString::number(LayoutPieces(layout)), this);
+        auto* button = new EnterButton(QString::number(LayoutPieces(layout)), this);
         PlaceControl(*button, QString("btn_GameSize%1").arg(layout), NumberPlace(layout));
-        button->setAutoDefault(false);
         connect(button, &QPushButton::clicked, this, [this, layout] {
             SelectStartLayout(layout);
             accept();
@@ -86,8 +85,10 @@ void PieceNumberDialog::AddNumberButtons() {
 }
 
 void PieceNumberDialog::AddOkButton() {
-    auto* button = new QPushButton("OK", this);
+    auto* button = new EnterButton("OK", this);
     PlaceControl(*button, "btn_OK", OkPlace);
+    // Enter right after the opening changes nothing.
+    button->setFocus();
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
 }
 

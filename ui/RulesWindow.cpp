@@ -1,11 +1,11 @@
 #include "ui/RulesWindow.h"
 
+#include "ui/EnterButton.h"
 #include "ui/Icon.h"
 #include "ui/Layout.h"
 
 #include <QKeyEvent>
 #include <QPainter>
-#include <QPushButton>
 
 namespace brastel {
 
@@ -96,10 +96,9 @@ RulesWindow::RulesWindow() {
     setWindowIcon(ApplicationIcon());
     setWindowFlags(FixedDialogFlags);
     FixInnerArea(*this, InnerWidth, InnerHeight);
-    auto* button = new QPushButton("OK", this);
+    auto* button = new EnterButton("OK", this);
     PlaceControl(*button, "btn_OK", OkPlace);
     button->setFont(JapaneseFont(ButtonPoints));
-    button->setAutoDefault(false);
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     // Painted text is none to a screen reader.
     setAccessibleDescription(WholeText());
