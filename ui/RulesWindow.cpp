@@ -4,8 +4,9 @@
 #include "ui/Icon.h"
 #include "ui/Layout.h"
 
-#include <QKeyEvent>
 #include <QPainter>
+
+#include <span>
 
 namespace brastel {
 
@@ -16,6 +17,11 @@ constexpr int InnerHeight = 10944;
 constexpr TwipRect OkPlace{11200, 7100, 1095, 405};
 constexpr double TextPoints = 13.2;
 constexpr double ButtonPoints = 9;
+
+/// The same with every font: the rules and the lines about the manual fill the window, and the
+/// button stands to the right of rule 8.
+constexpr int LinesInWindow = 36;
+constexpr qreal LineHeight = Pixels(InnerHeight) / qreal{LinesInWindow};
 
 // clang-format off
 constexpr const char* RulesText[] = {
@@ -51,7 +57,8 @@ constexpr const char* RulesText[] = {
     "10. When your two pieces are in the same horizontal line and there is no interrupting piece in between, ",
     "    one of them can move to the position next to the other.",
     "",
-    "",
+    " The manual describes how to play with mouse and keyboard and how to save games.",
+    " To read it, type in a terminal:  man brastel",
     "",
     "",
     "",
@@ -82,9 +89,31 @@ constexpr const char* RulesText[] = {
 };
 // clang-format on
 
-QString WholeText() {
+QFont TextFont() {
+    QFont font = JapaneseFont(TextPoints);
+    font.setBold(true);
+    return font;
+}
+
+/// How much narrower the text is painted than its font has it, so that every line ends before the
+/// window's right edge, or before the button where it stands beside that. At most 1.
+qreal Stretch(const QFontMetricsF& metrics) {
+    constexpr int Margin = 8;
+    const QRectF button = OkPlace.InPixels();
+    qreal stretch = 1;
+    qreal top = 0;
+    for (const char* line : RulesText) {
+        const bool isBesideButton = top < button.bottom() && top + LineHeight > button.top();
+        const qreal end = (isBesideButton ? button.left() : Pixels(InnerWidth)) - Margin;
+        stretch = qMin(stretch, end / qMax(end, metrics.horizontalAdvance(line)));
+        top += LineHeight;
+    }
+    return stretch;
+}
+
+QString ShownText() {
     QStringList lines;
-    for (const char* line : RulesText) lines.append(line);
+    for (const char* line : std::span(RulesText).first(LinesInWindow)) lines.append(line);
     return lines.join(' ').simplified();
 }
 
@@ -101,22 +130,22 @@ RulesWindow::RulesWindow() {
     button->setFont(JapaneseFont(ButtonPoints));
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
     // Painted text is none to a screen reader.
-    setAccessibleDescription(WholeText());
+    setAccessibleDescription(ShownText());
     CentreOnScreen(*this);
 }
 
-/// Lines are cut at the window's edges, neither wrapped nor scrolled.
+/// Neither wrapped nor scrolled. Lines below the lower edge are not seen.
 void RulesWindow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);
-    QFont bold = JapaneseFont(TextPoints);
-    bold.setBold(true);
-    painter.setFont(bold);
+    painter.setFont(TextFont());
     painter.setPen(Qt::black);
-    int baseline = painter.fontMetrics().ascent();
+    const QFontMetricsF metrics(painter.font());
+    painter.scale(Stretch(metrics), 1);
+    qreal baseline = (LineHeight + metrics.ascent() - metrics.descent()) / 2;
     for (const char* line : RulesText) {
-        painter.drawText(0, baseline, line);
-        baseline += painter.fontMetrics().height();
+        painter.drawText(QPointF(0, baseline), line);
+        baseline += LineHeight;
     }
 }
 
