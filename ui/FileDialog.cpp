@@ -105,9 +105,8 @@ void FileDialog::ConnectControls() {
         if (text != Shown(Chooser.NameBox)) Chooser.NameBox = text.toStdString();
     });
     // With the arrow keys, too.
-    connect(filOpenSave, &QListWidget::currentRowChanged, this, [this](int row) {
-        if (filOpenSave->hasFocus()) ShowClick(row);
-    });
+    connect(filOpenSave, &QListWidget::currentRowChanged, this,
+            [this](int row) { ShowClick(row); });
     // The lists stay as they are here: refilled, they would not know the second click of a pair.
     connect(filOpenSave, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { ShowClick(filOpenSave->row(item)); });
@@ -125,6 +124,8 @@ void FileDialog::ShowChooser() {
     txtOpenSave->setText(Shown(Chooser.NameBox));
     filOpenSave->clear();
     for (const std::string& file : Chooser.Files) filOpenSave->addItem(Shown(file));
+    // Until a row is set, if only to none, the focus makes the first one current.
+    filOpenSave->setCurrentIndex({});
     drvOpenSave->clear();
     for (const std::string& drive : Chooser.Drives) drvOpenSave->addItem(Shown(drive));
     drvOpenSave->setCurrentIndex(Chooser.Drive);
