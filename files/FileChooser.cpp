@@ -67,13 +67,23 @@ void FollowWorkingFolder() {
     ListFiles();
 }
 
-/// False, and nothing changed, if the folder cannot be entered.
+/// A folder that cannot be entered changes nothing; one that cannot be read is shown as empty. Both
+/// show the system's error text. True if the folder was entered.
 bool EnterFolder(const fs::path& folder) {
     std::error_code error;
     fs::current_path(folder, error);
-    if (error) return false;
-    FollowWorkingFolder();
-    return true;
+    const bool isEntered = !error;
+    if (isEntered) {
+        FollowWorkingFolder();
+        const fs::directory_iterator content(Chooser.Folder, error);
+    }
+    if (error) FileWindows->ShowWarning(error.message(), ProgramTitle);
+    return isEntered;
+}
+
+bool IsFolder(const fs::path& path) {
+    std::error_code ignored;
+    return fs::is_directory(path, ignored);
 }
 
 template <typename Row>
@@ -104,33 +114,26 @@ bool ChoosePath(const std::string& path) {
 
 // ---- The four outcomes of OK ----
 
+// Each is false if the text is none of its kind.
+
+bool TakeFolder(const std::string& text) {
+    if (!IsFolder(text)) return false;
+    if (EnterFolder(text)) Chooser.NameBox = Chooser.Pattern;
+    return true;
+}
+
 /// A pattern, with a folder before it or not.
 bool TakePattern(const std::string& text) {
     const fs::path path(text);
     if (!IsPattern(path.filename().string())) return false;
-    if (path.has_parent_path() && !EnterFolder(path.parent_path())) return false;
+    if (path.has_parent_path()) {
+        if (!IsFolder(path.parent_path())) return false;
+        if (!EnterFolder(path.parent_path())) return true;
+    }
     Chooser.Pattern = path.filename().string();
     Chooser.NameBox = Chooser.Pattern;
     ListFiles();
     return true;
-}
-
-bool TakeFolder(const std::string& text) {
-    if (!EnterFolder(text)) return false;
-    Chooser.NameBox = Chooser.Pattern;
-    return true;
-}
-
-/// The full path of an existing file that is no folder, or an empty one.
-std::string ExistingFile(const std::string& text) {
-    std::error_code error;
-    const fs::file_status status = fs::status(text, error);
-    if (error || !fs::exists(status) || fs::is_directory(status)) return {};
-    const fs::path path(text);
-    if (!path.has_parent_path()) return JoinPath(Chooser.Folder, text);
-    fs::path folder = fs::canonical(path.parent_path(), error);
-    if (error) folder = fs::absolute(path.parent_path(), error);
-    return JoinPath(folder.string(), path.filename().string());
 }
 
 bool TakeUnknownName(const std::string& text) {
@@ -174,9 +177,9 @@ void ChooseDrive(int drive) {
     if (row == nullptr) return;
     const std::string chosen = *row;
     const auto last = FolderOnDrive.find(chosen);
-    // Since then another drive may have been mounted there.
-    const bool isKnown =
-        last != FolderOnDrive.end() && DriveOf(Chooser.Drives, last->second) == chosen;
+    // Since then the folder may have been removed, or another drive mounted there.
+    const bool isKnown = last != FolderOnDrive.end() && IsFolder(last->second) &&
+                         DriveOf(Chooser.Drives, last->second) == chosen;
     if (!isKnown || !EnterFolder(last->second)) EnterFolder(chosen);
 }
 
@@ -195,11 +198,19 @@ bool ChooseFile(int row) {
     return chosen != nullptr && ChoosePath(JoinPath(Chooser.Folder, *chosen));
 }
 
+bool GoToFile(const std::string& text) {
+    std::error_code error;
+    const fs::path path(text);
+    if (!fs::exists(path, error) || fs::is_directory(path, error)) return false;
+    if (path.has_parent_path() && !EnterFolder(path.parent_path())) return false;
+    Chooser.NameBox = path.filename().string();
+    return true;
+}
+
 bool ConfirmName(const std::string& text) {
-    if (text.empty() || TakeFolder(text)) return false;
+    if (TakeFolder(text)) return false;
     // A file whose own name holds a wildcard can be chosen like any other.
-    const std::string file = ExistingFile(text);
-    if (!file.empty()) return ChoosePath(file);
+    if (GoToFile(text)) return ChoosePath(JoinPath(Chooser.Folder, Chooser.NameBox));
     return !TakePattern(text) && TakeUnknownName(text);
 }
 

@@ -45,16 +45,22 @@ void ForgetVisits();
 /// Starts the dialog anew in the working folder.
 void OpenChooser(ChooserMode mode);
 
-/// Rows and drives out of range, and folders that cannot be entered, change nothing.
+/// Rows and drives out of range change nothing. Nor does a folder that cannot be entered, but a box
+/// says why.
 void ChooseDrive(int drive);
 void ChooseFolder(int row);
 /// A click on a file.
 void ClickFile(int row);
 
+/// If the text names an existing file that is no folder: moves the lists to its folder and leaves
+/// its name in the name box. False, and nothing changed, for other texts.
+bool GoToFile(const std::string& text);
+
 /// These two return true when the dialog is to close.
 /// A double-click on a file: loads or saves it.
 bool ChooseFile(int row);
 /// OK with this text in the name box: a pattern, a folder, an existing file, or something else.
+/// Begins with GoToFile for a file.
 bool ConfirmName(const std::string& text);
 
 }  // namespace brastel

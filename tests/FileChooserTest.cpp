@@ -36,7 +36,10 @@ public:
     /// Boxes, "closes", the file chosen; or folder, pattern and files where any of them changed.
     std::string Seen(bool closes = false) {
         std::string seen = Told() + (closes ? "closes " : "");
-        if (ChosenFileName != "before") seen += fs::path(ChosenFileName).lexically_relative(Folder);
+        if (ChosenFileName != "before") {
+            seen += fs::path(ChosenFileName).lexically_relative(Folder);
+            EXPECT_EQ(fs::path(ChosenFileName).parent_path(), Chooser.Folder);
+        }
         // The first load ends in the program's folder.
         const bool isFirstLoad = closes && Chooser.Mode == Open;
         const fs::path program = fs::read_symlink("/proc/self/exe").parent_path();
@@ -56,7 +59,7 @@ TEST(FileChooserTest, OkTakesPatternsFoldersAndFiles) {
         "?.txt;-*;*. => . ?.txt;-*;*. -x.brs B.txt#*棋?brs => . *棋?brs 棋.brs#?brs => . ?brs#"
         "?.brs => . ?.brs a.brs 棋.brs#.* => . .* .hidden#sub/* => sub * deep#"
         "sub link/../gone/? => gone ?#sub => sub *.* deep#sub link/ => sub *.* deep#"
-        ".hide => .hide *.*#空 x/../gone => gone *.*# => #. => #"
+        ".hide => .hide *.*#空 x/../gone => gone *.*# => missing |1 closes #. => #"
         "sub/deep => close open closes sub/deep|overwrite? closes sub/deep#"
         "sub/../a.brs => close open closes a.brs|overwrite? closes a.brs#"
         "./.hidden => close open closes .hidden|overwrite? closes .hidden#"
@@ -123,16 +126,21 @@ TEST(FileChooserTest, WhatIsNotThereIsIgnored) {
     const int drive = Chooser.Drive;
     Chooser.Drives = {"/nowhere", dialog / "gone"};
     ChooseDrive(0);
-    EXPECT_EQ(dialog.Seen(), "") << "a stick that has been pulled out";
+    const std::string missing = "Brastel: No such file or directory ";
+    EXPECT_EQ(dialog.Seen(), missing) << "a stick that has been pulled out";
     ChooseDrive(1);
     EXPECT_EQ(dialog.Seen(), "gone *.*");
     ChooseDrive(drive);
     EXPECT_EQ(dialog.Seen(), "gone *.*") << "the drive's last folder";
+    Chooser.Folders = {{dialog / "lost", "lost", 0}};
+    ChooseFolder(0);
+    EXPECT_EQ(dialog.Seen(), missing + "gone *.*");
     fs::remove(dialog.Folder / "gone");
     ConfirmName("*");
     EXPECT_EQ(Chooser.Files, Names{});
     ChooseDrive(drive);
     EXPECT_EQ(fs::current_path(), Chooser.Drives[static_cast<std::size_t>(drive)]);
+    EXPECT_EQ(dialog.Told(), "") << "the drive itself can be entered";
 }
 
 /// The dialog used to show the root while the process stayed in the folder that is no more: what

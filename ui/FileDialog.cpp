@@ -7,6 +7,7 @@
 #include <QFileIconProvider>
 #include <QKeyEvent>
 #include <QPushButton>
+#include <QStyledItemDelegate>
 
 namespace brastel {
 
@@ -35,7 +36,23 @@ constexpr LabelText FolderLabel{"lblOpenSave1", {2400, 120, 1455, 315}, "ﾃﾞ�
 constexpr LabelText DriveLabel{"lblOpenSave3", {2400, 2340, 1455, 315}, "ﾄﾞﾗｲﾌﾞ(&V):"};
 constexpr const char* CancelText = "ｷｬﾝｾﾙ";
 
-constexpr int IndentPerLevel = 2;
+constexpr QSize FolderIconSize(16, 16);
+constexpr int IndentPerLevel = 8;
+constexpr int DepthRole = Qt::UserRole;
+
+/// Indents a folder by its depth, and leaves half of the row to its name. Spaces in the text would
+/// hide the name from a search by its first letters.
+class FolderDelegate : public QStyledItemDelegate {
+public:
+    using QStyledItemDelegate::QStyledItemDelegate;
+    void paint(QPainter* painter, const QStyleOptionViewItem& option,
+               const QModelIndex& index) const override {
+        QStyleOptionViewItem indented(option);
+        const int indent = index.data(DepthRole).toInt() * IndentPerLevel;
+        indented.rect.adjust(qMin(indent, option.rect.width() / 2), 0, 0, 0);
+        QStyledItemDelegate::paint(painter, indented, index);
+    }
+};
 
 /// Names are bytes that need not be UTF-8; what is not is shown as well as it goes.
 QString Shown(const std::string& name) { return QString::fromStdString(name); }
@@ -92,6 +109,8 @@ void FileDialog::BuildControls() {
     dirOpenSave->setAccessibleName("ﾃﾞｨﾚｸﾄﾘ");
     filOpenSave->setUniformItemSizes(true);
     dirOpenSave->setUniformItemSizes(true);
+    dirOpenSave->setIconSize(FolderIconSize);
+    dirOpenSave->setItemDelegate(new FolderDelegate(dirOpenSave));
 }
 
 void FileDialog::ConnectControls() {
@@ -138,11 +157,14 @@ void FileDialog::ShowFolders() {
     dirOpenSave->clear();
     int current = 0;
     for (const FolderRow& row : Chooser.Folders) {
-        const QString indent(qsizetype{row.Depth} * IndentPerLevel, ' ');
-        new QListWidgetItem(icon, indent + Shown(row.Name), dirOpenSave);
+        auto* item = new QListWidgetItem(icon, Shown(row.Name), dirOpenSave);
+        item->setData(DepthRole, row.Depth);
         if (row.Path == Chooser.Folder) current = dirOpenSave->count() - 1;
     }
     dirOpenSave->setCurrentRow(current);
+    // The folder above it and those in it are the ones to go on to.
+    dirOpenSave->scrollToItem(dirOpenSave->item(qMax(current - 1, 0)),
+                              QAbstractItemView::PositionAtTop);
 }
 
 void FileDialog::EnterRow(int row) {
@@ -159,7 +181,8 @@ void FileDialog::ShowClick(int row) {
 void FileDialog::ShowPath() {
     const QString path = Shown(Chooser.Folder);
     lblPath->setText(lblPath->fontMetrics().elidedText(path, Qt::ElideLeft, lblPath->width()));
-    lblPath->setToolTip(path.toHtmlEscaped());
+    // As rich text in any case: Qt would guess from the name.
+    lblPath->setToolTip(Qt::convertFromPlainText(path));
 }
 
 void FileDialog::After(bool isDone) {
@@ -170,7 +193,13 @@ void FileDialog::After(bool isDone) {
     }
 }
 
-void FileDialog::Confirm() { After(ConfirmName(std::string(Chooser.NameBox))); }
+void FileDialog::Confirm() {
+    // The lists show a file in another folder while a box asks about it.
+    if (GoToFile(std::string(Chooser.NameBox))) ShowChooser();
+    After(ConfirmName(std::string(Chooser.NameBox)));
+    txtOpenSave->setFocus();
+    txtOpenSave->selectAll();
+}
 
 /// Enter is OK, but in the folder list it enters the folder.
 void FileDialog::keyPressEvent(QKeyEvent* event) {
