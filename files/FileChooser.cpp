@@ -8,6 +8,7 @@
 #include <algorithm>
 #include <filesystem>
 #include <map>
+#include <unistd.h>
 
 namespace brastel {
 
@@ -94,10 +95,12 @@ const Row* RowAt(const std::vector<Row>& rows, int row) {
 
 // ---- A file is chosen ----
 
+/// An installed program lies where its user may not write: a game saved there by name would fail.
 void EnterProgramFolder() {
     std::error_code error;
-    const fs::path program = fs::read_symlink("/proc/self/exe", error);
-    if (!error) fs::current_path(program.parent_path(), error);
+    fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
+    if (access(folder.c_str(), W_OK) != 0) folder = FileWindows->DocumentsFolder();
+    fs::current_path(folder, error);
 }
 
 bool ChoosePath(const std::string& path) {

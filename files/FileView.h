@@ -23,6 +23,9 @@ public:
     }
     /// A box with the exclamation icon.
     virtual void ShowWarning(const std::string& /*text*/, const std::string& /*title*/) {}
+
+    /// Where the user keeps documents; the home folder if no such folder can be written to.
+    virtual std::string DocumentsFolder() const { return {}; }
 };
 
 /// The view that the file commands speak to; never null.

@@ -20,8 +20,11 @@
 
 #include <QApplication>
 #include <QCloseEvent>
+#include <QDir>
+#include <QFileInfo>
 #include <QMenuBar>
 #include <QMessageBox>
+#include <QStandardPaths>
 
 namespace brastel {
 
@@ -279,6 +282,11 @@ bool MainWindow::AskYesOrNo(const std::string& text, const std::string& title) {
 
 void MainWindow::ShowWarning(const std::string& text, const std::string& title) {
     RunMessageBox(QMessageBox::Warning, text, title, QMessageBox::Ok, QMessageBox::Ok);
+}
+
+std::string MainWindow::DocumentsFolder() const {
+    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
+    return (QFileInfo(documents).isWritable() ? documents : QDir::homePath()).toStdString();
 }
 
 /// Also in the middle of a computer move: closed during the pause before the search, the window

@@ -59,6 +59,7 @@ public:
     void CloseMainWindow() override;
     bool AskYesOrNo(const std::string& text, const std::string& title) override;
     void ShowWarning(const std::string& text, const std::string& title) override;
+    std::string DocumentsFolder() const override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
