@@ -5,6 +5,7 @@
 
 #include <QAbstractButton>
 #include <QAccessible>
+#include <QDialog>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
@@ -240,21 +241,27 @@ TEST_F(AccessibilityTest, SquaresCanBePressed) {
 }
 
 TEST_F(AccessibilityTest, DialogsCanBeRead) {
-    ChooseAndAnswer("mnu_Help", "mnu_Rules", {[](QWidget& dialog) {
-                        const QString rules = QAccessible::queryAccessibleInterface(&dialog)->text(
-                            QAccessible::Description);
-                        EXPECT_TRUE(rules.startsWith("1. The first player"));
-                        dialog.close();
-                    }});
-    ChooseAndAnswer("mnu_Options", "mnuFileItem2", {[](QWidget& dialog) {
-                        for (const char* control :
-                             {"txtOpenSave", "filOpenSave", "dirOpenSave", "drvOpenSave"}) {
-                            auto* widget = dialog.findChild<QWidget*>(control);
-                            EXPECT_NE(NameOf(QAccessible::queryAccessibleInterface(widget)), "")
-                                << control;
-                        }
-                        ClickIn(dialog, "cmdOpenSave1");
-                    }});
+    const char* const Rows[][4] = {
+        {"mnu_Help", "mnu_Rules", "frm_Rules", "Orvel Game Rules: 1. The first player"},
+        {"mnu_Options", "mnu_GameSize", "frm_GameSize", "Change Piece Number: "},
+        {"mnu_Options", "mnu_GameSize", "btn_GameSize3", "8: Select Piece Number"},
+        {"mnu_Options", "mnuFileItem2", "frmOpenSave", "Save Game: "},
+        {"mnu_Options", "mnuFileItem2", "txtOpenSave", "File name: "},
+        {"mnu_Options", "mnuFileItem2", "filOpenSave", "Files: "},
+        {"mnu_Options", "mnuFileItem2", "dirOpenSave", "Folders: "},
+        {"mnu_Options", "mnuFileItem2", "lblOpenSave3", "Drives: "},
+        {"mnu_Options", "mnuFileItem2", "cmdOpenSave1", "Cancel: "}};
+    for (const auto& row : Rows) {
+        ChooseAndAnswer(row[0], row[1], {[&row](QWidget& dialog) {
+                            auto* part = dialog.findChild<QWidget*>(row[2]);
+                            auto* object = QAccessible::queryAccessibleInterface(
+                                part != nullptr ? part : &dialog);
+                            const QString words =
+                                NameOf(object) + ": " + object->text(QAccessible::Description);
+                            EXPECT_TRUE(words.startsWith(row[3])) << words.toStdString();
+                            qobject_cast<QDialog*>(&dialog)->reject();
+                        }});
+    }
 }
 
 /// Calls of assistive technology are no events, so they reach the board even where mouse and

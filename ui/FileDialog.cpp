@@ -26,14 +26,16 @@ constexpr TwipRect CancelPlace{4560, 1320, 1095, 435};
 constexpr double Points = 9;
 
 /// Half-width katakana; the ampersand marks the access key of the control that the label names.
+/// Screen readers are given the English name.
 struct LabelText {
     const char* Name;
     TwipRect Place;
     const char* Text;
+    const char* English;
 };
-constexpr LabelText NameLabel{"lblOpenSave0", {120, 120, 1455, 315}, "ﾌｧｲﾙ名(&N):"};
-constexpr LabelText FolderLabel{"lblOpenSave1", {2400, 120, 1455, 315}, "ﾃﾞｨﾚｸﾄﾘ(&D)"};
-constexpr LabelText DriveLabel{"lblOpenSave3", {2400, 2340, 1455, 315}, "ﾄﾞﾗｲﾌﾞ(&V):"};
+constexpr LabelText NameLabel{"lblOpenSave0", {120, 120, 1455, 315}, "ﾌｧｲﾙ名(&N):", "File name"};
+constexpr LabelText FolderLabel{"lblOpenSave1", {2400, 120, 1455, 315}, "ﾃﾞｨﾚｸﾄﾘ(&D)", "Folders"};
+constexpr LabelText DriveLabel{"lblOpenSave3", {2400, 2340, 1455, 315}, "ﾄﾞﾗｲﾌﾞ(&V):", "Drives"};
 constexpr const char* CancelText = "ｷｬﾝｾﾙ";
 
 constexpr QSize FolderIconSize(16, 16);
@@ -61,6 +63,9 @@ void AddLabel(QWidget* parent, const LabelText& label, QWidget* buddy) {
     auto* widget = new QLabel(label.Text, parent);
     PlaceControl(*widget, label.Name, label.Place);
     widget->setBuddy(buddy);
+    // A combo box has the name of its label only.
+    widget->setAccessibleName(label.English);
+    buddy->setAccessibleName(label.English);
 }
 
 template <typename Widget>
@@ -82,6 +87,7 @@ FileDialog::FileDialog(ChooserMode mode) {
     OpenChooser(mode);
     setObjectName("frmOpenSave");
     setWindowTitle(ChooserTitle(mode));
+    setAccessibleName(mode == ChooserMode::Open ? "Load Game" : "Save Game");
     setWindowIcon(ApplicationIcon());
     setWindowFlags(FixedDialogFlags);
     setPalette(GreyPalette(palette()));
@@ -104,9 +110,7 @@ void FileDialog::BuildControls() {
     AddLabel(this, NameLabel, txtOpenSave);
     AddLabel(this, FolderLabel, dirOpenSave);
     AddLabel(this, DriveLabel, drvOpenSave);
-    // Lists do not take the name of their label.
-    filOpenSave->setAccessibleName("ﾌｧｲﾙ");
-    dirOpenSave->setAccessibleName("ﾃﾞｨﾚｸﾄﾘ");
+    filOpenSave->setAccessibleName("Files");
     filOpenSave->setUniformItemSizes(true);
     dirOpenSave->setUniformItemSizes(true);
     dirOpenSave->setIconSize(FolderIconSize);
@@ -117,6 +121,7 @@ void FileDialog::ConnectControls() {
     QPushButton* ok = AddButton(this, "cmdOpenSave0", "OK", OkPlace);
     QPushButton* cancel = AddButton(this, "cmdOpenSave1", CancelText, CancelPlace);
     ok->setDefault(true);
+    cancel->setAccessibleName("Cancel");
     connect(ok, &QPushButton::clicked, this, [this] { Confirm(); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
     // What the box cannot show of a name's bytes is kept until it is edited.
@@ -181,6 +186,7 @@ void FileDialog::ShowClick(int row) {
 void FileDialog::ShowPath() {
     const QString path = Shown(Chooser.Folder);
     lblPath->setText(lblPath->fontMetrics().elidedText(path, Qt::ElideLeft, lblPath->width()));
+    lblPath->setAccessibleName("Current folder: " + path);
     // As rich text in any case: Qt would guess from the name.
     lblPath->setToolTip(Qt::convertFromPlainText(path));
 }

@@ -49,6 +49,7 @@ constexpr QRect Divider(Pixels(975), Pixels(1425) - 1, Pixels(5010 - 975), 2);
 PieceNumberDialog::PieceNumberDialog() {
     setObjectName("frm_GameSize");
     setWindowTitle("About Orvel Geme");
+    setAccessibleName("Change Piece Number");
     setWindowIcon(ApplicationIcon());
     setWindowFlags(FixedDialogFlags);
     QFont bold = font();
@@ -74,9 +75,11 @@ void PieceNumberDialog::AddLabels() {
 }
 
 void PieceNumberDialog::AddNumberButtons() {
+    const QString purpose = findChild<QLabel*>("lbl_GameSize")->text();
     for (int layout = 0; layout < LayoutCount; ++layout) {
         auto* button = new EnterButton(QString::number(LayoutPieces(layout)), this);
         PlaceControl(*button, QString("btn_GameSize%1").arg(layout), NumberPlace(layout));
+        button->setAccessibleDescription(purpose);
         connect(button, &QPushButton::clicked, this, [this, layout] {
             SelectStartLayout(layout);
             accept();
