@@ -2,11 +2,11 @@
 
 namespace brastel {
 
-/// Takes from this process and those it starts the means to change any file outside, even if the
-/// program is wrong: all file systems become read-only, and /tmp and /var/tmp empty ones in memory, which go
-/// with the last of these processes and holds the home folder as well. Devices cannot be opened but
-/// those that lead nowhere, as /dev/null. Only the folder that the environment variable
-/// BRASTEL_WRITABLE names, if any, stays as it is.
+/// Keeps this process and those it starts from changing any file outside, even if the program is
+/// wrong. All file systems become read-only, except for the folder that the environment variable
+/// BRASTEL_WRITABLE names. /tmp, which then holds the home folder, and /var/tmp become empty file
+/// systems in memory, which end with the last of these processes. No devices can be opened but a
+/// few such as /dev/null.
 ///
 /// False, and nothing is changed, where the system does not allow it: that takes root's rights or
 /// user namespaces, and Linux 5.12. True at once in a sandbox. Call it before there are threads.
