@@ -68,6 +68,7 @@ public:
         Calls += isError ? text.substr(error.size()) : isMissing ? "missing" : title + ": " + text;
         Calls += ' ';
     }
+    std::string DocumentsFolder() const override { return "/"; }
 };
 
 }  // namespace brastel
