@@ -66,11 +66,13 @@ void PieceNumberDialog::AddLabels() {
     for (const LabelText& row : Labels) {
         auto* label = new QLabel(row.Text, this);
         PlaceControl(*label, row.Name, row.Place);
-        label->setAlignment(Qt::AlignLeft | Qt::AlignTop);
         QFont font = label->font();
         font.setPixelSize(FontPixels(row.Points));
         label->setFont(font);
         ShrinkTextToFit(*label);
+        // Of a line that is higher than its label only what is blank may be cut.
+        const bool isHigh = label->fontMetrics().height() > label->height();
+        label->setAlignment(isHigh ? Qt::AlignVCenter : Qt::AlignTop);
     }
 }
 
