@@ -16,16 +16,15 @@ TMPDIR=$Folder/none bash -euc ". '$Helper'; true" 2>/dev/null &&
 
 "$InSandbox" --required true || exit 77
 mkdir 'to keep'
-export BRASTEL_WRITABLE="$Folder/to keep"
-"$InSandbox" sh -c 'echo kept >"$BRASTEL_WRITABLE/file" && echo lost >/dev/null && echo lost >/tmp/file'
+export BRASTEL_WRITABLE="to keep"
+"$InSandbox" sh -ec 'cd /; echo kept >"$BRASTEL_WRITABLE/file"; echo lost | tee /dev/null >/tmp/file'
 [ "$(cat 'to keep/file')" = kept ] || fail "nothing can be kept"
 
-# only_at OPTION PLACE...: an option that all mounts of a sandbox have but these, in order.
+# only_at OPTION PLACE...: all mounts of a sandbox have the option, but for these, in order.
 only_at() {
     local found
     found=$("$InSandbox" awk -v option="$1" '$6 !~ option {print $5}' /proc/self/mountinfo)
-    [ "$(sort <<<"$found")" = "$(printf '%s\n' "${@:2}")" ] ||
-        fail "no $1 at: $found"
+    [ "$(sort <<<"$found")" = "$(printf '%s\n' "${@:2}")" ] || fail "no $1 at: $found"
 }
 only_at '^ro' /tmp "${Folder// /\\040}/to\\040keep" /var/tmp
 only_at nodev /dev/full /dev/null /dev/random /dev/urandom /dev/zero

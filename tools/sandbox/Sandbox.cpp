@@ -22,6 +22,7 @@ namespace {
 namespace fs = std::filesystem;
 
 constexpr const char* Mark = "BRASTEL_SANDBOX";
+constexpr const char* Writable = "BRASTEL_WRITABLE";
 constexpr const char* Temporary = "/tmp";
 constexpr const char* Home = "/tmp/home";
 constexpr std::uint64_t NoDevices = MOUNT_ATTR_NODEV;
@@ -68,8 +69,11 @@ std::vector<KeptPlace> PlacesToKeep() {
     for (const auto* device : {"null", "zero", "full", "random", "urandom"}) {
         places.push_back({fs::path("/dev") / device, ReadOnly});
     }
-    const char* writable = std::getenv("BRASTEL_WRITABLE");
-    if (writable != nullptr) places.push_back({fs::absolute(writable), NoDevices});
+    if (const char* named = std::getenv(Writable); named != nullptr) {
+        places.push_back({fs::absolute(named), NoDevices});
+        // Those who go to another folder shall find it still.
+        setenv(Writable, places.back().Path.c_str(), 1);
+    }
     for (KeptPlace& place : places) {
         place.Mounts = open_tree(AT_FDCWD, place.Path.c_str(),
                                  OPEN_TREE_CLONE | OPEN_TREE_CLOEXEC | AT_RECURSIVE);
