@@ -184,6 +184,7 @@ FileError CreateTextFile(const std::string& path, const std::string& text) {
 FileError WriteTextFile(const std::string& path, const std::string& text) {
     errno = 0;
     OpenFile old(path, O_WRONLY);
+    // No file, or a link that leads nowhere.
     if (!old.IsOpen() && errno == ENOENT) return WriteNew(path, text, O_TRUNC);
     if (!old.IsOpen()) return FileErrorOfOpening(path, errno);
     const mode_t mode = old.State().st_mode;
