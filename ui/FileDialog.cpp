@@ -148,7 +148,7 @@ void FileDialog::ShowChooser() {
     txtOpenSave->setText(Shown(Chooser.NameBox));
     filOpenSave->clear();
     for (const std::string& file : Chooser.Files) filOpenSave->addItem(Shown(file));
-    // Until a row is set, if only to none, the focus makes the first one current.
+    // Without this call the list makes its first row current when it gets the focus.
     filOpenSave->setCurrentIndex({});
     drvOpenSave->clear();
     for (const std::string& drive : Chooser.Drives) drvOpenSave->addItem(Shown(drive));
@@ -167,7 +167,7 @@ void FileDialog::ShowFolders() {
         if (row.Path == Chooser.Folder) current = dirOpenSave->count() - 1;
     }
     dirOpenSave->setCurrentRow(current);
-    // The folder above it and those in it are the ones to go on to.
+    // The user goes on to the folder above the current one or to one in it.
     dirOpenSave->scrollToItem(dirOpenSave->item(qMax(current - 1, 0)),
                               QAbstractItemView::PositionAtTop);
 }
@@ -187,7 +187,7 @@ void FileDialog::ShowPath() {
     const QString path = Shown(Chooser.Folder);
     lblPath->setText(lblPath->fontMetrics().elidedText(path, Qt::ElideLeft, lblPath->width()));
     lblPath->setAccessibleName("Current folder: " + path);
-    // As rich text in any case: Qt would guess from the name.
+    // Always rich text. Qt would otherwise guess the format from the name.
     lblPath->setToolTip(Qt::convertFromPlainText(path));
 }
 
@@ -200,7 +200,7 @@ void FileDialog::After(bool isDone) {
 }
 
 void FileDialog::Confirm() {
-    // The lists show a file in another folder while a box asks about it.
+    // Before a box asks about a file in another folder, the lists show that folder.
     if (GoToFile(std::string(Chooser.NameBox))) ShowChooser();
     After(ConfirmName(std::string(Chooser.NameBox)));
     txtOpenSave->setFocus();

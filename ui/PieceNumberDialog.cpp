@@ -70,7 +70,7 @@ void PieceNumberDialog::AddLabels() {
         font.setPixelSize(FontPixels(row.Points));
         label->setFont(font);
         ShrinkTextToFit(*label);
-        // Of a line that is higher than its label only what is blank may be cut.
+        // If the line is higher than its label, only the blank space around the letters is cut.
         const bool isHigh = label->fontMetrics().height() > label->height();
         label->setAlignment(isHigh ? Qt::AlignVCenter : Qt::AlignTop);
     }

@@ -129,7 +129,7 @@ RulesWindow::RulesWindow() {
     PlaceControl(*button, "btn_OK", OkPlace);
     button->setFont(JapaneseFont(ButtonPoints));
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
-    // Painted text is none to a screen reader.
+    // Screen readers cannot read painted text.
     setAccessibleDescription(ShownText());
     CentreOnScreen(*this);
 }
