@@ -148,7 +148,7 @@ void UseDialogInOwnRoot(FuzzInput& input) {
 
 [[noreturn]] void Skip() {
     constexpr int Skipped = 77;
-    std::puts("Skipped: this system does not let a process have a root of its own.");
+    std::puts("Skipped: this system allows no sandbox.");
     // Not as a crash, for which the fuzzer takes an exit.
     std::fflush(stdout);
     std::_Exit(Skipped);
@@ -159,7 +159,8 @@ void UseDialogInOwnRoot(FuzzInput& input) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brastel;
-    if (!EnterSandbox()) Skip();
+    static const bool isInSandbox = EnterSandbox();
+    if (!isInSandbox) Skip();
     StartProgram(Game, Files);
     Files.OpenMainWindow();
     ForgetVisits();

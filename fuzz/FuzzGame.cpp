@@ -66,7 +66,8 @@ bool LoadFrom(const MemoryFile& file, ShownFiles& files) {
 }  // namespace brastel
 
 int LLVMFuzzerInitialize(int* /*count*/, char*** /*words*/) {
-    constexpr bool KeepsRights = true;  // a user's, to have a root of his own
+    // file_chooser needs them to change its root.
+    constexpr bool KeepsRights = true;
     brastel::EnterSandbox(KeepsRights);
     return 0;
 }

@@ -16,7 +16,7 @@ TMPDIR=$Folder/none bash -euc ". '$Helper'; true" 2>/dev/null &&
 
 "$InSandbox" --required true || exit 77
 mkdir 'to keep'
-export BRASTEL_WRITABLE="to keep"
+export BRASTEL_WRITABLE="to keep" BRASTEL_SANDBOX="another one"
 "$InSandbox" sh -ec 'cd /; echo kept >"$BRASTEL_WRITABLE/file"; echo lost | tee /dev/null >/tmp/file'
 [ "$(cat 'to keep/file')" = kept ] || fail "nothing can be kept"
 

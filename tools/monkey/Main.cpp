@@ -47,7 +47,8 @@ int main(int count, char** texts) {
         return 2;
     }
     if (!EnterSandbox()) {
-        std::cerr << "Nothing was done: the monkey saves anywhere, and there can be no sandbox.\n";
+        std::cerr
+            << "Nothing was done: the monkey saves anywhere, and this system allows no sandbox.\n";
         return 77;
     }
     MakeGames();

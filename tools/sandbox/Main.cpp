@@ -24,7 +24,8 @@ int main(int count, char** words) {
         return 2;
     }
     if (!brastel::EnterSandbox() && isRequired) {
-        std::fputs("A sandbox takes root's rights or user namespaces.\n", stderr);
+        std::fputs("This system allows no sandbox: it takes root's rights or user namespaces.\n",
+                   stderr);
         return 125;
     }
     execvp(command[0], command);

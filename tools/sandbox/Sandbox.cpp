@@ -28,6 +28,9 @@ constexpr const char* Home = "/tmp/home";
 constexpr std::uint64_t NoDevices = MOUNT_ATTR_NODEV;
 constexpr std::uint64_t ReadOnly = MOUNT_ATTR_RDONLY;
 
+/// Its name, which no other has.
+fs::path MountNamespace() { return fs::read_symlink("/proc/self/ns/mnt"); }
+
 /// A sandbox that is made by half is none.
 void Require(bool isDone, const char* what) {
     if (isDone) return;
@@ -71,7 +74,7 @@ std::vector<KeptPlace> PlacesToKeep() {
     }
     if (const char* named = std::getenv(Writable); named != nullptr) {
         places.push_back({fs::absolute(named), NoDevices});
-        // Those who go to another folder shall find it still.
+        // It must be found from any working folder.
         setenv(Writable, places.back().Path.c_str(), 1);
     }
     for (KeptPlace& place : places) {
@@ -84,7 +87,7 @@ std::vector<KeptPlace> PlacesToKeep() {
 void PutBack(const KeptPlace& place) {
     const bool isMissing = place.Mounts < 0;
     if (isMissing) return;
-    // The way there, if it leads through the temporary folder.
+    // The temporary folder hides the way there.
     if (!fs::exists(place.Path)) fs::create_directories(place.Path);
     Require(SetAttributes(place.Mounts, "", place.Attributes) &&
                 move_mount(place.Mounts, "", AT_FDCWD, place.Path.c_str(),
@@ -117,7 +120,7 @@ bool CloseOff() {
     if (!SetAttributes(AT_FDCWD, "/", ReadOnly | NoDevices)) return false;
     MakeTemporaryFolders();
     for (const KeptPlace& place : places) PutBack(place);
-    // The working folder, too, has to be the one that was put back.
+    // The same path, which may lead through what was put back.
     if (chdir(folder.c_str()) != 0) Require(chdir(Temporary) == 0, Temporary);
     return true;
 }
@@ -131,9 +134,10 @@ void GiveUpRights() {
 }  // namespace
 
 bool EnterSandbox(bool keepsRights) {
-    if (std::getenv(Mark) != nullptr) return true;
+    const char* mark = std::getenv(Mark);
+    if (mark != nullptr && mark == MountNamespace()) return true;
     const bool isMade = HasOwnMounts() && CloseOff();
-    if (isMade) setenv(Mark, "1", 1);
+    if (isMade) setenv(Mark, MountNamespace().c_str(), 1);
     if (geteuid() != 0 && !keepsRights) GiveUpRights();
     return isMade;
 }
