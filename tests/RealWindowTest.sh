@@ -21,6 +21,16 @@ find_form() {
     FormTop=$(($(geometry Brastel 'Absolute upper-left Y') + $(geometry Brastel Height) - 778))
 }
 
+# The room left of and above the game's frame is that on the other side, but for an odd pixel.
+is_centred() {
+    local left right top bottom x y
+    IFS=', ' read -r left right top bottom \
+        < <(xprop -id "$(window_named Brastel)" _NET_FRAME_EXTENTS | sed 's/.*= //')
+    x=$((2 * FormLeft + $(geometry Brastel Width) + right - left - 1280))
+    y=$((2 * $(geometry Brastel 'Absolute upper-left Y') + $(geometry Brastel Height) + bottom - top - 1024))
+    [[ $x =~ ^(-1|0|1)$ && $y =~ ^(-1|0|1)$ ]]
+}
+
 # ---- Board ----
 
 column_x() { echo $((FormLeft + 40 + 40 * (($1 - 1) % 8))); }
@@ -61,6 +71,8 @@ GameProcess=$!
 Started+=("$GameProcess")
 find_form
 [ "$(count_shown $Empty)" -eq 112 ] || fail "the first board is not empty"
+is_centred || fail "the first window is not in the middle"
+xdotool windowmove "$(window_named Brastel)" 40 30
 
 xdotool key alt+o
 sleep 0.3
@@ -71,6 +83,7 @@ xdotool mousemove $(($(geometry 'About Orvel Geme' 'Absolute upper-left X') + 22
     $(($(geometry 'About Orvel Geme' 'Absolute upper-left Y') + 211)) click 1
 find_form
 [ "$(count_shown $Red) $(count_shown $Blue)" = '8 8' ] || fail "the standard layout is not shown"
+is_centred || fail "the window built anew is not in the middle"
 
 before=$(look)
 drag 68 60

@@ -49,8 +49,8 @@ constexpr Qt::WindowFlags FixedDialogFlags = Qt::Dialog | Qt::MSWindowsFixedSize
 /// logical pixels are added, for a menu bar.
 void FixInnerArea(QWidget& window, int widthTwips, int heightTwips, int extraHeight = 0);
 
-/// Puts a window of known size into the middle of its screen; one that is larger than the screen
-/// keeps its title bar and menu on it.
+/// Puts a window of known size, about to be shown, into the middle of its screen, frame included;
+/// one that is larger than the screen keeps its title bar and menu on it.
 void CentreOnScreen(QWidget& window);
 
 /// Names a control and puts it at its place.
