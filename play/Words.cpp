@@ -177,8 +177,7 @@ private:
 
     std::string StandstillInWords() const {
         if (IsAction) return SideInWords(Mover) + " passes";
-        return After.SideToMove != Mover ? SideInWords(After.SideToMove) + " to move"
-                                         : "nothing changed";
+        return After.SideToMove != Mover ? TurnInWords(After.SideToMove) : "nothing changed";
     }
 
     const Position& Before;
@@ -194,6 +193,8 @@ private:
 }  // namespace
 
 std::string SideInWords(int side) { return side == Red ? "Red" : "Blue"; }
+
+std::string TurnInWords(int side) { return SideInWords(side) + " to move"; }
 
 std::string SquareInWords(int square) {
     if (!IsOnBoard(square)) return "off the board";

@@ -11,6 +11,9 @@ namespace brastel {
 /// "Red" or "Blue".
 std::string SideInWords(int side);
 
+/// "Red to move".
+std::string TurnInWords(int side);
+
 /// "row 9, column 4": rows 1 to 14 from the top, columns 1 to 8 from the left. "off the board" for
 /// what is no square.
 std::string SquareInWords(int square);

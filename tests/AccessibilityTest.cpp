@@ -136,6 +136,16 @@ TEST_F(AccessibilityTest, ThePanelHasNames) {
     EXPECT_EQ(NameOf("lbl_Message"), "Status line: Red Wins!");
     for (const char* button : {"Forward", "Backward", "Hint"}) EXPECT_NE(Find(button), nullptr);
     EXPECT_EQ(Find("Undo"), nullptr) << "never shown, so never read";
+    const std::pair<const char*, const char*> descriptions[] = {
+        {"Blue's turn circle: to move", "Blue to move"},
+        {"Backward", "Takes back one move; the computer then waits"},
+        {"Hint", "Plays the best move for the side to move"}};
+    for (const auto& [name, description] : descriptions) {
+        EXPECT_EQ(Find(name)->text(QAccessible::Description), description);
+    }
+    EXPECT_TRUE(Board()->text(QAccessible::Description).startsWith("Arrow keys move, "));
+    Open(3);
+    EXPECT_TRUE(Board()->text(QAccessible::Description).endsWith(" to give it the ring"));
 }
 
 TEST_F(AccessibilityTest, TheFocusIsOnASquare) {

@@ -1,7 +1,11 @@
 #include "core/StartPosition.h"
 #include "tests/WindowTest.h"
 #include "ui/Bead.h"
+#include "ui/BoardView.h"
 #include "ui/Icon.h"
+
+#include <QHelpEvent>
+#include <QToolTip>
 
 namespace brastel {
 
@@ -112,6 +116,30 @@ TEST_F(BoardViewTest, CirclesTouchTheirSquaresFromInside) {
         }
         EXPECT_EQ(picture.pixel(device.center()), Ground);
     }
+}
+
+TEST_F(BoardViewTest, ToolTipsTellWhatCanBeDone) {
+    const auto tip = [this](QPoint point) {
+        return static_cast<BoardView*>(Form)->HelpAt(point).toStdString();
+    };
+    const QPoint redCircle(685, 255);
+    EXPECT_EQ(tip(redCircle), "Red to move");
+    EXPECT_EQ(tip({755, 255}), "") << "Blue's circle is not shown";
+    const std::string add = "Click an empty square to add a Red piece\n";
+    const std::string end = "Double-click a Red piece to give it the ring and to end Red's setup";
+    EXPECT_TRUE(tip(Centre(60)).starts_with(add + "Options > "));
+    ClickAt(Centre(60));
+    EXPECT_EQ(tip(Centre(60)), add + end);
+    for (int square = 66; square <= 78; ++square) ClickAt(Centre(square));
+    EXPECT_EQ(tip(Centre(60)), end) << "there are twelve";
+    Open(4);
+    EXPECT_EQ(tip(Centre(68)), "Double-click a Red piece to give it the ring");
+    EXPECT_EQ(tip(Centre(28)), "This piece cannot get the ring now") << "number 9";
+    OpenForTwo(4, 68, 44);
+    EXPECT_EQ(tip(Centre(68)), "");
+    QHelpEvent event(QEvent::ToolTip, redCircle, Form->mapToGlobal(redCircle));
+    QApplication::sendEvent(Form, &event);
+    EXPECT_EQ(QToolTip::text(), "Red to move");
 }
 
 TEST_F(BoardViewTest, BeadsAreDrawnAtTheDeviceRatio) {

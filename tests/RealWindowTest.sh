@@ -24,10 +24,11 @@ find_form() {
 # The room left of and above the game's frame is that on the other side, but for an odd pixel.
 is_centred() {
     local left right top bottom x y
+    y=$((2 * $(geometry Brastel 'Absolute upper-left Y') + $(geometry Brastel Height) - 1024))
     IFS=', ' read -r left right top bottom \
         < <(xprop -id "$(window_named Brastel)" _NET_FRAME_EXTENTS | sed 's/.*= //')
     x=$((2 * FormLeft + $(geometry Brastel Width) + right - left - 1280))
-    y=$((2 * $(geometry Brastel 'Absolute upper-left Y') + $(geometry Brastel Height) + bottom - top - 1024))
+    y=$((y + bottom - top))
     [[ $x =~ ^(-1|0|1)$ && $y =~ ^(-1|0|1)$ ]]
 }
 

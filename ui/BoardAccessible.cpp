@@ -47,6 +47,7 @@ public:
         return {View->mapToGlobal(place.topLeft()), place.size()};
     }
     QString text(QAccessible::Text kind) const override {
+        if (kind == QAccessible::Description) return Description();
         return kind == QAccessible::Name ? Name() : QString();
     }
 
@@ -54,6 +55,7 @@ protected:
     /// In view coordinates.
     virtual QRect Place() const = 0;
     virtual QString Name() const = 0;
+    virtual QString Description() const { return {}; }
 
     const QPointer<BoardView> View;
 };
@@ -132,6 +134,7 @@ protected:
         const QString side = QString::fromStdString(SideInWords(Side));
         return side + "'s turn circle: " + (View->ShownTurn() == Side ? "to move" : "waiting");
     }
+    QString Description() const override { return View->HelpAt(Place().center()); }
 
 private:
     const Int16 Side;
@@ -186,7 +189,9 @@ public:
 
     QString text(QAccessible::Text kind) const override {
         if (kind != QAccessible::Description) return QAccessibleWidget::text(kind);
-        return "Arrow keys move, Enter picks up and drops, Escape lets go, R gives the ring.";
+        return "Arrow keys move, Enter clicks or picks up and drops a piece, Escape lets go, "
+               "R double-clicks.\n" +
+               BoardView::OpeningHelp();
     }
 
 private:

@@ -1,11 +1,14 @@
 #include "ui/BoardView.h"
 
+#include "core/Opening.h"
+#include "play/Words.h"
 #include "ui/Bead.h"
 #include "ui/Layout.h"
 #include "ui/Outline.h"
 
 #include <QPaintEvent>
 #include <QPainter>
+#include <QToolTip>
 
 #include <array>
 
@@ -101,6 +104,34 @@ void BoardView::Show(int& mark, int square) {
 Piece BoardView::PieceAt(QPoint point) {
     if (!IsBoardPoint(point.x(), point.y())) return {};
     return PieceOn(SquareFromPoint(point.x(), point.y()));
+}
+
+QString BoardView::OpeningHelp() {
+    if (BothRingsPlaced()) return {};
+    const QString side = QString::fromStdString(SideInWords(Pos.SideToMove));
+    const QString ring = "Double-click a " + side + " piece to give it the ring";
+    if (!InFreeSetup()) return ring;
+    const int count = PieceCount(Pos.SideToMove);
+    const QString add = "Click an empty square to add a " + side + " piece";
+    if (count == 0) return add + "\nOptions > Change Piece Number has ready start positions";
+    const QString end = ring + " and to end " + side + "'s setup";
+    return count < MaxPieces ? add + '\n' + end : end;
+}
+
+QString BoardView::HelpAt(QPoint point) const {
+    if (TurnCircle(Turn).contains(point)) return QString::fromStdString(TurnInWords(Turn));
+    if (!BoardBorder.contains(point)) return {};
+    const Piece piece = PieceAt(point);
+    const bool isBarred = !MayPlaceRing(piece) && IsPlacingRing(piece.Side);
+    return piece && isBarred ? "This piece cannot get the ring now" : OpeningHelp();
+}
+
+bool BoardView::event(QEvent* event) {
+    if (event->type() != QEvent::ToolTip) return QWidget::event(event);
+    const auto& help = static_cast<QHelpEvent&>(*event);
+    const QRect place = BoardBorder.contains(help.pos()) ? BoardBorder : TurnCircle(Turn);
+    QToolTip::showText(help.globalPos(), HelpAt(help.pos()), this, place);
+    return true;
 }
 
 const QPixmap& BoardView::BeadOf(int side) {

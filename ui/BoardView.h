@@ -32,7 +32,14 @@ public:
     /// The piece whose picture lies under a point, or no piece.
     static Piece PieceAt(QPoint point);
 
+    /// What a click and a double-click on the board do; empty once both rings are placed.
+    static QString OpeningHelp();
+    /// What the tool tip of a point says, which belongs to a piece, the board or the turn circle;
+    /// empty if there is none.
+    QString HelpAt(QPoint point) const;
+
 protected:
+    bool event(QEvent* event) override;
     void paintEvent(QPaintEvent* event) override;
 
 private:

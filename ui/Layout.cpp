@@ -41,8 +41,7 @@ protected:
         const QMargins frame = window.windowHandle()->frameMargins();
         FrameSeen = QSize(frame.left() + frame.right(), frame.top() + frame.bottom());
         // Not by the widget, whose own notion of the frame is out of date after a rebuild.
-        window.windowHandle()->setPosition(MiddlePlace(window) +
-                                           QPoint(frame.left(), frame.top()));
+        window.windowHandle()->setPosition(MiddlePlace(window) + QPoint(frame.left(), frame.top()));
         return false;
     }
 };

@@ -62,10 +62,12 @@ bool IsUserInput(QEvent::Type type) {
     }
 }
 
+/// Screen readers read the tool tip, too.
 QPushButton* NewButton(QWidget* parent, const QString& name, const QString& caption,
-                       const TwipRect& place) {
+                       const TwipRect& place, const QString& help = {}) {
     auto* button = new QPushButton(caption, parent);
     PlaceControl(*button, name, place);
+    button->setToolTip(help);
     return button;
 }
 
@@ -121,9 +123,12 @@ void MainWindow::BuildWindow() {
 }
 
 void MainWindow::BuildSidePanel() {
-    btn_Forward = NewButton(Form, "btn_Forward", "Forward", ForwardPlace);
-    btn_Backward = NewButton(Form, "btn_Backward", "Backward", BackwardPlace);
-    btn_Hint = NewButton(Form, "btn_Hint", "Hint", HintPlace);
+    btn_Forward = NewButton(Form, "btn_Forward", "Forward", ForwardPlace,
+                            "Plays the next move of the loaded game");
+    btn_Backward = NewButton(Form, "btn_Backward", "Backward", BackwardPlace,
+                             "Takes back one move; the computer then waits");
+    btn_Hint =
+        NewButton(Form, "btn_Hint", "Hint", HintPlace, "Plays the best move for the side to move");
     lbl_Message = new QLabel(Form);
     PlaceControl(*lbl_Message, "lbl_Message", MessagePlace);
 }
@@ -140,9 +145,9 @@ void MainWindow::BuildHiddenControls() {
     FillHidden(Text2, hidden, "Text2_");
 }
 
-/// The menu bar's room is a multiple of 4 logical pixels, which are whole device pixels at ratios of
-/// quarters: the board below then begins on a whole one. The rest lies above the bar; a bar higher
-/// than its items would have a broken line below them.
+/// The menu bar's room is a multiple of 4 logical pixels, which are whole device pixels at ratios
+/// of quarters: the board below then begins on a whole one. The rest lies above the bar; a bar
+/// higher than its items would have a broken line below them.
 void MainWindow::FixSize() {
     const int height = menuBar()->sizeHint().height();
     const int room = (height + 3) / 4 * 4;
