@@ -32,19 +32,24 @@ Piece PieceIn(const Position& position, int square) {
 
 // ---- Places ----
 
+/// The goal is its attacker's, as in "the first player to carry a ring into his goal".
+std::string GoalInWords(int square) {
+    return SideInWords(Row(square) == 0 ? Red : Blue) + "'s goal";
+}
+
 std::string PlacePrefix(int square) {
     if (InField(square)) return {};
-    return IsGoalMouth(square) ? "goal, " : "outside, ";
+    return (IsGoalMouth(square) ? GoalInWords(square) : "outside") + ", ";
 }
 
 std::string On(int square) {
-    return IsGoalMouth(square) ? "in the goal" : "on " + SquareInWords(square);
+    return IsGoalMouth(square) ? "in " + GoalInWords(square) : "on " + SquareInWords(square);
 }
 
 /// The end of a way that begins on another square.
 std::string To(int from, int to) {
     if (!IsOnBoard(to)) return "off the board";
-    if (IsGoalMouth(to)) return "into the goal";
+    if (IsGoalMouth(to)) return "into " + GoalInWords(to);
     const bool goesOut = InField(from) && !InField(to);
     return (goesOut ? "out to " : "to ") + SquareInWords(to);
 }

@@ -22,7 +22,8 @@ std::string SquareInWords(int square);
 std::string PieceInWords(Piece piece);
 
 /// What the square holds now: "Red piece 3", "Red piece 3, carries a ring", "a ring" where one lies
-/// without a piece, or "empty". Squares beyond the border lines begin with "outside, " or "goal, ".
+/// without a piece, or "empty". Squares beyond the border lines begin with "outside, ", "Red's
+/// goal, " (the top one, which Red attacks) or "Blue's goal, ".
 std::string ContentInWords(int square);
 
 /// "row 9, column 4: Red piece 3, carries a ring".

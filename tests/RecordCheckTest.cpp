@@ -226,7 +226,7 @@ TEST(RecordReportTest, GamesAreTold) {
               "   3. Red piece 1 from row 3, column 4 to row 2, column 4\n"
               "      Red wins\n"
               "   4. Blue piece 2 from row 6, column 4 to row 7, column 4\n"
-              "   5. Red piece 1 leaves the ring in the goal\n");
+              "   5. Red piece 1 leaves the ring in Red's goal\n");
     EXPECT_EQ(Caption(won, 1), "After entry 1: Blue places its ring");
     EXPECT_EQ(Caption(won, 3), "After entry 3: Red wins");
 
@@ -279,7 +279,7 @@ TEST(RecordReportTest, PositionsAreDrawn) {
     EXPECT_NE(text.find("\nOutside: Red piece 3 on row 5, column 8\n"), std::string::npos);
     const std::string picture = BoardAsSvg(Pos, "A caption");
     for (const char* part :
-         {"<title>A caption</title>", "<title>row 1, column 5: goal, a ring</title>",
+         {"<title>A caption</title>", "<title>row 1, column 5: Red's goal, a ring</title>",
           "<title>row 3, column 4: Red piece 1, carries a ring</title>",
           "<title>row 5, column 8: outside, Red piece 3</title>"}) {
         EXPECT_NE(picture.find(part), std::string::npos) << part;

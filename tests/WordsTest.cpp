@@ -14,12 +14,12 @@ TEST(WordsTest, SquaresAreTold) {
     Pos.RingSquare = {68, 112};
     const std::map<int, std::string> cases{
         {1, "row 1, column 1: outside, empty"},
-        {4, "row 1, column 4: goal, Red piece 2"},
+        {4, "row 1, column 4: Red's goal, Red piece 2"},
         {9, "row 2, column 1: outside, Red piece 3"},
         {44, "row 6, column 4: Blue piece 1"},
         {68, "row 9, column 4: Red piece 1, carries a ring"},
         {69, "row 9, column 5: empty"},
-        {108, "row 14, column 4: goal, Blue piece 2"},
+        {108, "row 14, column 4: Blue's goal, Blue piece 2"},
         {112, "row 14, column 8: outside, a ring"},
         {0, "off the board"},
         {113, "off the board"},
@@ -76,15 +76,15 @@ TEST(WordsTest, ActionsAreTold) {
          "Blue piece 1 comes back on row 2, column 2"},
         {"R68 r61 B44", 68, 61, "Red piece 1 passes the ring to Red piece 2 on row 8, column 5",
          "the ring of Red piece 2 goes to Red piece 1 on row 9, column 4"},
-        {"R13 b12 B44", 13, 4, "Red piece 1 from row 2, column 5 into the goal",
+        {"R13 b12 B44", 13, 4, "Red piece 1 from row 2, column 5 into Red's goal",
          "Red piece 1 comes back on row 2, column 5"},
         // It steps back in at once, and the ring stays.
         {"R11 b44 B45", 11, 4,
          "Red piece 1 from row 2, column 3 to row 2, column 4; "
-         "Red piece 1 leaves the ring in the goal",
+         "Red piece 1 leaves the ring in Red's goal",
          "Red piece 1 from row 2, column 4 to row 2, column 3; "
          "a ring goes to Red piece 1 on row 2, column 3"},
-        {"R12 B44", 12, 4, "Red piece 1 leaves the ring in the goal",
+        {"R12 B44", 12, 4, "Red piece 1 leaves the ring in Red's goal",
          "a ring goes to Red piece 1 on row 2, column 4"},
         {"R12 B44", 0, 0, "Red passes", "Red to move"},
     };
@@ -104,15 +104,15 @@ TEST(WordsTest, TheOpeningIsTold) {
     SetupAddPiece(SquareLeft(4), SquareTop(4));
     SetupAddPiece(SquareLeft(68), SquareTop(68));
     EXPECT_EQ(ChangesInWords(start, Pos),
-              "Red piece 1 in the goal; Red piece 2 on row 9, column 4; "
-              "a ring goes to Red piece 1 in the goal");
+              "Red piece 1 in Red's goal; Red piece 2 on row 9, column 4; "
+              "a ring goes to Red piece 1 in Red's goal");
     // The ring of a piece placed in the goal lay there before.
-    EXPECT_EQ(ChangesInWords(Pos, PositionAfter(4, 0)), "Red piece 1 takes the ring in the goal");
+    EXPECT_EQ(ChangesInWords(Pos, PositionAfter(4, 0)), "Red piece 1 takes the ring in Red's goal");
     const Position placed = PositionAfter(68, 0);
     EXPECT_EQ(ChangesInWords(Pos, placed), "Red piece 2 takes the ring on row 9, column 4");
     EXPECT_EQ(ChangesInWords(placed, start),
               "Red piece 1 leaves the board; Red piece 2 leaves the board; "
-              "the ring of Red piece 2 goes into the goal");
+              "the ring of Red piece 2 goes into Red's goal");
 }
 
 bool Tells(const std::string& words, const std::string& part) {
@@ -130,7 +130,7 @@ void CheckPieces(const Position& before, const Position& after, const std::strin
             const bool isTold = Tells(words + ' ', name + ' ') || Tells(words, name + ';');
             if (from != to) {
                 const bool inGoal = Tells(ContentInWords(to), "goal, ");
-                EXPECT_TRUE(isTold && Tells(words, inGoal ? "the goal" : SquareInWords(to)))
+                EXPECT_TRUE(isTold && Tells(words, inGoal ? "'s goal" : SquareInWords(to)))
                     << name << " in " << words;
             } else if (std::ranges::find(before.RingSquare, from) == before.RingSquare.end() &&
                        std::ranges::find(after.RingSquare, to) == after.RingSquare.end()) {

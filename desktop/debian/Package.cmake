@@ -23,7 +23,7 @@ set(CPACK_PACKAGE_DESCRIPTION_SUMMARY "board game of pushing pieces and passing 
 set(CPACK_PACKAGE_DESCRIPTION
 "Brastel plays the Orvel Game: two sides, Red and Blue, on a board of 14 by 8
 squares. Pieces step, slide, hit and push; two rings are passed from piece to
-piece. The side whose ring carrier stands before the enemy goal, where nobody
+piece. The side whose ring carrier stands before its goal, where nobody
 can push it away, wins.
 
 One person plays against the computer, at eleven strengths, or two people share
