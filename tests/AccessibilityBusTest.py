@@ -87,6 +87,7 @@ press_key("Down", "Down", "Right")
 wait_to_hear("row 9, column 5: Red piece 2")
 press_key("space")
 wait_to_hear("Red piece 2 picked up")
+assert square(9, 5).getState().contains(pyatspi.STATE_SELECTED)
 press_key("Up", "space")
 wait_to_hear("Red piece 2 from row 9, column 5 to row 8, column 5")
 assert square(9, 5).name == "row 9, column 5: empty", square(9, 5).name

@@ -148,18 +148,6 @@ TEST_F(AccessibilityTest, ThePanelHasNames) {
     EXPECT_TRUE(Board()->text(QAccessible::Description).endsWith(" to give it the ring"));
 }
 
-TEST_F(AccessibilityTest, TheFocusIsOnASquare) {
-    Open(3);
-    Heard.clear();
-    QTest::keyClick(Window.windowHandle(), Qt::Key_Left);
-    EXPECT_EQ(NameOf(Board()->focusChild()), "row 9, column 3: Red piece 2");
-    EXPECT_TRUE(Square(67)->state().focused);
-    EXPECT_FALSE(Square(68)->state().focused);
-    EXPECT_TRUE(HasHeard(QAccessible::Focus, 67));
-    Control<QWidget>("btn_Hint")->setFocus();
-    EXPECT_FALSE(Square(67)->state().focused);
-}
-
 TEST_F(AccessibilityTest, MovesAndMessagesAreReadOut) {
     OpenForTwo(0, 68, 44);
     Forget();
@@ -228,26 +216,6 @@ TEST_F(AccessibilityTest, ChangedSquaresAreTold) {
         EXPECT_TRUE(HasHeard(QAccessible::NameChanged, square)) << square;
     }
     EXPECT_FALSE(HasHeard(QAccessible::NameChanged, 67));
-}
-
-TEST_F(AccessibilityTest, SquaresCanBePressed) {
-    Open(3);
-    ChooseFromMenu("mnu_Level", "mnu_TwoPlayer");
-    Do(68, "Give ring");
-    Do(44, "Give ring");
-    ASSERT_EQ(Pos.MoveCount, 3);
-    Forget();
-    PressSquare(66);
-    EXPECT_TRUE(Square(66)->state().selected);
-    EXPECT_EQ(ReadOut(), "Red piece 1 picked up");
-    PressSquare(58);
-    EXPECT_EQ(Pos.Board[58], Red);
-    Forget();
-    PressSquare(42);
-    Forget();
-    PressSquare(112);
-    EXPECT_EQ(ReadOut(), "pieces do not leave the field by themselves. Blue piece 1 stays");
-    EXPECT_EQ(Pos.MoveCount, 4);
 }
 
 TEST_F(AccessibilityTest, DialogsCanBeRead) {

@@ -1,10 +1,7 @@
-#include "core/StartPosition.h"
-#include "play/GameState.h"
 #include "tests/WindowTest.h"
 #include "ui/KeyboardInput.h"
 
 #include <QAbstractButton>
-#include <QMenu>
 
 namespace brastel {
 
@@ -65,21 +62,6 @@ TEST_F(KeyboardInputTest, AWholeGameNeedsNoMouse) {
     EXPECT_EQ(Pos.MoveCount, 6) << "Backward comes next after the board";
 }
 
-TEST_F(KeyboardInputTest, AFreeSetupNeedsNoMouse) {
-    for (const int square : {68, 69, 75}) {
-        Go(square);
-        Key(Qt::Key_Enter);
-    }
-    Key(Qt::Key_R);
-    EXPECT_EQ(Pos.RedCount, 3);
-    EXPECT_EQ(Pos.RingSquare[0], 75);
-    Go(44);
-    Key(Qt::Key_Enter);
-    Key(Qt::Key_R);
-    EXPECT_EQ(Pos.MoveCount, 3);
-    ExpectViewShowsPosition();
-}
-
 TEST_F(KeyboardInputTest, TheFocusStopsAtTheEdges) {
     constexpr std::pair<int, Qt::Key> Corners[] = {
         {1, Qt::Key_Up}, {1, Qt::Key_Left}, {112, Qt::Key_Down}, {112, Qt::Key_Right}};
@@ -130,17 +112,6 @@ TEST_F(KeyboardInputTest, WhatIsHeldIsLetGoWithoutADrop) {
     }
 }
 
-/// The outline of a drag that a key ends must go, and the release must not drop its piece.
-TEST_F(KeyboardInputTest, AKeyEndsADragOfTheMouse) {
-    OpenForTwo(3, 68, 44);
-    const Position position = Pos;
-    Press(Centre(66));
-    Key(Qt::Key_Left);
-    EXPECT_FALSE(IsShown("DragOutline"));
-    Release(Centre(58));
-    EXPECT_EQ(Pos, position);
-}
-
 /// The piece that is held could be another one after a step along the record, or none.
 TEST_F(KeyboardInputTest, AChangeOfTheBoardLetsGo) {
     OpenForTwo(3, 68, 44);
@@ -182,18 +153,6 @@ TEST_F(KeyboardInputTest, OtherKeysAreLeftToOthers) {
     EXPECT_EQ(Focus(), focus);
     EXPECT_EQ(Pos.MoveCount, 1);
     EXPECT_FALSE(IsMarked(focus));
-}
-
-/// Every menu command is reached by its access keys.
-TEST_F(KeyboardInputTest, TheAccessKeysChooseFromTheMenus) {
-    Open(3);
-    Key(Qt::Key_L, Qt::AltModifier);
-    auto* menu = Control<QMenu>("mnu_Level");
-    ASSERT_TRUE(menu->isVisible());
-    QTest::keyClick(menu, Qt::Key_O);
-    EXPECT_EQ(Level, 11);
-    EXPECT_FALSE(menu->isVisible());
-    EXPECT_TRUE(Form->hasFocus());
 }
 
 }  // namespace

@@ -50,19 +50,6 @@ TEST_F(MainWindowTest, ThePieceNumberDialogChangesTheLayout) {
     }
 }
 
-TEST_F(MainWindowTest, TheComputerAnswersAndButtonsAct) {
-    Open(3);
-    DoubleClick(69);
-    EXPECT_EQ(Pos.MoveCount, 3) << "Blue places its ring at once";
-    Drag(67, 59);
-    EXPECT_EQ(Pos.MoveCount, 5);
-    ClickButton("btn_Backward");
-    EXPECT_EQ(Pos.SideToMove, Blue);
-    ClickButton("btn_Hint");
-    EXPECT_EQ(Pos.MoveCount, 5) << "the hint plays for Blue, and Red is no computer";
-    ExpectViewShowsPosition();
-}
-
 /// The keyboard went on to the Hint button when Backward disappeared, and the next press of the
 /// space bar played a move.
 TEST_F(MainWindowTest, SteppingBackWithTheSpaceBarStopsAtTheStart) {

@@ -88,6 +88,7 @@ TEST_F(MouseInputTest, ADragEndsWithoutADropWhenItIsBrokenOff) {
     const Position position = Pos;
     const auto breakOffs = std::to_array<std::function<void()>>({
         [this] { QTest::keyClick(Window.windowHandle(), Qt::Key_Escape); },
+        [this] { QTest::keyClick(Window.windowHandle(), Qt::Key_Left); },
         [this] { Form->clearFocus(); },
     });
     for (const auto& breakOff : breakOffs) {
