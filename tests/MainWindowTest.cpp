@@ -1,5 +1,3 @@
-#include "core/StartPosition.h"
-#include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "tests/WindowTest.h"
 

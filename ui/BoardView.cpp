@@ -109,7 +109,7 @@ Piece BoardView::PieceAt(QPoint point) {
 QString BoardView::OpeningHelp() {
     if (BothRingsPlaced()) return {};
     const QString side = QString::fromStdString(SideInWords(Pos.SideToMove));
-    const QString ring = "Double-click a " + side + " piece to give it the ring";
+    QString ring = "Double-click a " + side + " piece to give it the ring";
     if (!InFreeSetup()) return ring;
     const int count = PieceCount(Pos.SideToMove);
     const QString add = "Click an empty square to add a " + side + " piece";
