@@ -62,7 +62,6 @@ void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) 
 void AddLevel(QMenu& levels, std::string_view name, std::string_view caption, Int16 level) {
     QAction* action = levels.addAction(QString::fromUtf8(caption.data()));
     action->setObjectName(QString::fromUtf8(name.data()));
-    action->setCheckable(true);
     action->setData(level);
     QObject::connect(action, &QAction::triggered, &levels, [level, &levels] {
         SetLevel(level);
@@ -91,10 +90,13 @@ QMenu* BuildMenus(MainWindow& window) {
     return levels;
 }
 
-/// No exclusive group of actions does this: it would show bullets instead of check marks.
+/// An exclusive group of actions would show bullets instead of check marks, and checkable items
+/// that are not checked would show empty boxes, as if one could check several.
 void CheckLevel(const QMenu& levels, Int16 level) {
     for (QAction* action : levels.actions()) {
-        if (action->isCheckable()) action->setChecked(action->data().toInt() == level);
+        const bool isChosen = action->data() == level;
+        action->setCheckable(isChosen);
+        action->setChecked(isChosen);
     }
 }
 
