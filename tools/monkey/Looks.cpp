@@ -5,6 +5,7 @@
 #include "play/GameState.h"
 #include "tests/ShownPosition.h"
 #include "tools/monkey/Aims.h"
+#include "ui/KeyboardInput.h"
 
 #include <QApplication>
 #include <QMenu>
@@ -78,10 +79,13 @@ void LookAtGame() {
     Expect((QApplication::overrideCursor() != nullptr) == IsThinking, "the busy cursor");
 }
 
-/// What is on the screen, not what would be painted now.
+/// What is on the screen, not what would be painted now. A piece that is dragged or picked up has
+/// other colours.
 void LookAtPicture() {
     const auto isSeen = [] {
-        return GameWindow->isVisible() && !GameWindow->isMinimized() && !Outline().isVisible();
+        const bool isHeld = GameWindow->findChild<KeyboardInput*>()->HeldSquare() != NoSquare;
+        return GameWindow->isVisible() && !GameWindow->isMinimized() && !Outline().isVisible() &&
+               !isHeld;
     };
     std::string wrong;
     for (int attempt = 0; attempt < 50 && isSeen(); ++attempt) {
