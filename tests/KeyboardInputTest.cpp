@@ -130,20 +130,6 @@ TEST_F(KeyboardInputTest, AChangeOfTheBoardLetsGo) {
     }
 }
 
-TEST_F(KeyboardInputTest, KeysAreDroppedWhileTheComputerThinks) {
-    Open(3);
-    Go(68);
-    Key(Qt::Key_R);
-    WhileThinking([this] {
-        Key(Qt::Key_Left);
-        Key(Qt::Key_Space);
-    });
-    Carry(67, 59, Qt::Key_Space);
-    EXPECT_EQ(Focus(), 59);
-    EXPECT_EQ(Held(), NoSquare);
-    EXPECT_EQ(Pos.MoveCount, 5);
-}
-
 TEST_F(KeyboardInputTest, OtherKeysAreLeftToOthers) {
     Open(3);
     const int focus = Focus();

@@ -64,6 +64,9 @@ TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
     const Int16 levelBefore = Level;
     WhileThinking([this] {
         Drag(68, 60);
+        for (const Qt::Key key : {Qt::Key_Left, Qt::Key_Space, Qt::Key_Right, Qt::Key_Space}) {
+            QTest::keyClick(Window.windowHandle(), key);
+        }
         ClickButton("btn_Backward");
         ClickButton("btn_Hint");
         const QMenuBar* bar = Window.menuBar();
