@@ -24,7 +24,7 @@ public:
     virtual void ShowMessage(std::string_view /*text*/) {}
     virtual void ShowTurn(Int16 /*side*/) {}
     virtual void Beep() {}
-    /// Why an action of the user was refused, for those who hear the game; nothing to be seen.
+    /// Why an action of the user was refused, for screen readers. Nothing is shown.
     virtual void TellRefusal(std::string_view /*why*/) {}
 
     // ---- Buttons ----

@@ -60,13 +60,15 @@ void Refuse(std::string_view why) {
 void TakeAction(int from, int to) {
     if (IsThinking || from == to) return;
     BeginAction();
-    if (IsRecordFull() || !IsAccepted(from, to)) {
-        const bool isPushBack = CheckHit(PieceOn(from), PieceOn(to)) == HitVerdict::PushBack;
-        if (isPushBack && !IsRecordFull()) ShowStatus(PushBackText);
-        return Refuse(WhyRefused(from, to));
+    if (IsRecordFull()) return Refuse(WhyRefused(from, to));
+    if (IsAccepted(from, to)) {
+        ApplyAction(from, to);
+        return FinishHumanAction(from, to);
     }
-    ApplyAction(from, to);
-    FinishHumanAction(from, to);
+    const bool isPushBack = CheckHit(PieceOn(from), PieceOn(to)) == HitVerdict::PushBack;
+    if (!isPushBack) return Refuse(WhyRefused(from, to));
+    ShowStatus(PushBackText);
+    RestoreForward();
 }
 
 }  // namespace

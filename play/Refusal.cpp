@@ -46,10 +46,6 @@ bool IsColumnBlocked(const Action& action) {
     return false;
 }
 
-bool IsBeforeGoal(const Action& action) {
-    return IsCarrier(action) && IsGoalFront(Pos.SideToMove, action.From);
-}
-
 bool PushesBack(const Action& action) {
     return CheckHit(PieceOn(action.From), PieceOn(action.To)) == HitVerdict::PushBack;
 }
@@ -89,8 +85,8 @@ constexpr std::array HitRules{
 
 constexpr std::array MoveRules{
     Rule{IsOutside, "the piece waits outside and comes back by itself"},
-    Rule{[](const Action& e) { return e.To == GoalSquare(Pos.SideToMove) && !IsBeforeGoal(e); },
-         "only a ring carrier right before the goal may enter it"},
+    Rule{[](const Action& e) { return e.To == GoalSquare(Pos.SideToMove); },
+         "only the computer's carriers enter the goal; a carrier wins right before it"},
     Rule{GoesOut, "pieces do not leave the field by themselves"},
     Rule{IsWayBlocked, "the way is blocked"},
     Rule{IsColumnBlocked, "the way is blocked"},

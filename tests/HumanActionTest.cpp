@@ -27,7 +27,7 @@ TEST_F(HumanActionTest, Scenarios) {
     EXPECT_EQ(Window.Searches, 0);
 }
 
-/// Each refusal is told, but not that a piece was put back where it was.
+/// A piece that is dropped on its own square is not refused.
 TEST_F(HumanActionTest, RefusalsAreExplained) {
     const std::vector<std::pair<const char*, const char*>> cases{
         {"68-60", "the rings must be placed first"},
