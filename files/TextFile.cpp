@@ -38,7 +38,7 @@ bool WriteAndClose(OpenFile& file, const std::string& text) {
 
 bool GoToStart(const OpenFile& file) { return lseek(file.Descriptor(), 0, SEEK_SET) == 0; }
 
-/// Leaves the file with this size, on disk.
+/// Sets the size of the file and waits until the file is on disk.
 bool Settle(const OpenFile& file, off_t size) {
     return ftruncate(file.Descriptor(), size) == 0 && fsync(file.Descriptor()) == 0;
 }
@@ -118,12 +118,20 @@ bool TakeOver(const struct stat& state, const OpenFile& file) {
            fchmod(file.Descriptor(), state.st_mode & Permissions) == 0;
 }
 
+/// A shell that has redirected the output of this program goes on writing to this file.
+bool IsStandardOutput(const struct stat& state) {
+    struct stat output {};
+    return fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == state.st_dev &&
+           output.st_ino == state.st_ino;
+}
+
 bool Replace(const std::string& path, const OpenFile& old, const std::string& text) {
     const std::string name = RealName(path);
-    if (!IsOnlyName(name, old.State()) || HasAccessList(old)) return false;
+    const struct stat state = old.State();
+    if (!IsOnlyName(name, state) || HasAccessList(old) || IsStandardOutput(state)) return false;
     TemporaryFile draft(FolderOf(name));
     const bool isReady = draft.IsOpen() && WriteAll(draft, text) && !HasAccessList(draft) &&
-                         TakeOver(old.State(), draft) && fsync(draft.Descriptor()) == 0;
+                         TakeOver(state, draft) && fsync(draft.Descriptor()) == 0;
     if (!isReady || !draft.Rename(name)) return false;
     // If this fails, a power failure leaves either file, and each is whole.
     SyncFolderOf(name);
@@ -143,8 +151,10 @@ bool Reserve(const OpenFile& file, off_t size) {
 bool CopyToDisk(const OpenFile& file, const std::string& name, std::optional<TemporaryFile>& copy) {
     if (!name.empty()) copy.emplace(FolderOf(name));
     if (!copy || !copy->IsOpen()) copy.emplace(CopyFolder);
-    return copy->IsOpen() && CopyAll(file, *copy) && fsync(copy->Descriptor()) == 0 &&
-           SyncFolderOf(copy->Name());
+    const bool isSafe = copy->IsOpen() && CopyAll(file, *copy) && fsync(copy->Descriptor()) == 0;
+    // Some file systems cannot do this.
+    if (isSafe) SyncFolderOf(copy->Name());
+    return isSafe;
 }
 
 /// Old blocks are written over before the length changes, so that putting them back needs no space.
