@@ -79,7 +79,7 @@ std::string FirstContradiction(const Options& options) {
         return "--at draws one game: name one file";
     if (options.Output.empty()) return {};
     std::error_code ignored;
-    if (!std::filesystem::exists(options.Output, ignored)) return {};
+    if (!exists(std::filesystem::symlink_status(options.Output, ignored))) return {};
     for (const std::string& file : options.Files) {
         if (!std::filesystem::equivalent(file, options.Output, ignored)) continue;
         return options.Output + ": that is the record itself";
