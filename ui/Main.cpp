@@ -31,16 +31,15 @@ namespace {
 /// Qt's own handler, once Qt has started.
 QtMessageHandler UsualHandler = nullptr;
 
-/// If Qt cannot start, for want of a display most often, it would print several lines and abort
+/// If Qt cannot start, mostly because there is no display, it would print several lines and abort
 /// with a core dump; here it prints the last warning, which tells why, and the first line of the
 /// final message. Without memory, it would go on with a window that shows nothing or never opens.
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     static QByteArray reason;
-    const bool isMemory =
-        message.contains("out of memory") || message.contains("Thread creation error");
-    if (isMemory) EndWithoutMemory();
+    if (message.contains("out of memory")) EndWithoutMemory();
     const QByteArray line = "Brastel: " + message.section('\n', 0, 0).toLocal8Bit() + '\n';
-    if (type == QtFatalMsg) End(reason + line);
+    const bool isLost = message.contains("Thread creation error");
+    if (isLost || type == QtFatalMsg) End(reason + line);
     if (UsualHandler) return UsualHandler(type, context, message);
     if (type == QtWarningMsg) reason = line;
 }
