@@ -101,17 +101,15 @@ void SearchRoot(Int16 depth) {
     ValueRow(row, best);
 }
 
-bool MayBeAny(MoveCode /*code*/) { return true; }
-
-/// The best of row 1 that is allowed, or 0. Each candidate that reaches the best so far tosses a
-/// coin, the first one to do so included, so the last of k equals is taken with probability 1/2,
-/// the one before with 1/4.
-Int16 SelectFromRoot(bool (*isAllowed)(MoveCode)) {
+/// The best of row 1, or the best that is allowed; 0 where there is none. Each candidate that
+/// reaches the best so far tosses a coin, the first one to do so included, so the last of k equals
+/// is taken with probability 1/2, the one before with 1/4.
+Int16 SelectFromRoot(bool (*isAllowed)(MoveCode) = nullptr) {
     double best = -10000000.0;
     int chosen = 0;
     for (int n = 1; n <= CandidateCount[SearchPly]; ++n) {
         const double value = MoveScores[SearchPly][n];
-        if (value < best || !isAllowed(MoveList[SearchPly][n])) continue;
+        if (value < best || (isAllowed && !isAllowed(MoveList[SearchPly][n]))) continue;
         const bool isBetter = value > best;
         best = value;
         const bool wonToss = RandomBelow(2) == 1;
@@ -126,7 +124,7 @@ Int16 ChooseCandidate(Int16 depth) {
     SearchedPositions = 1;
     GenerateMoves(SearchPly);
     if (depth > 1) SearchRoot(depth);
-    return SelectFromRoot(MayBeAny);
+    return SelectFromRoot();
 }
 
 bool CanBePlayed(MoveCode code) { return ActionFits(OriginOf(code), DestinationOf(code)); }
