@@ -130,7 +130,11 @@ TEST_F(FileDialogTest, AGameIsSavedOverwrittenLoadedAndSteppedThrough) {
                          EXPECT_EQ(name->selectedText(), PathOf("a game"));
                          ClickIn(dialog, "cmdOpenSave0");
                      },
-                     Overwrite(QMessageBox::Yes)});
+                     [](QWidget& box) {
+                         const auto* name = box.parent()->findChild<QLineEdit*>("txtOpenSave");
+                         EXPECT_EQ(name->text(), "a game") << "the lists show the file's folder";
+                         Overwrite(QMessageBox::Yes)(box);
+                     }});
     EXPECT_TRUE(Bytes("a game").endsWith(" 67  59 \r\n"));
     EXPECT_EQ(Pos.MoveCount, 6) << "saving does not touch the game";
 

@@ -6,6 +6,7 @@
 #include <csignal>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <unistd.h>
 
 namespace brastel {
 namespace {
@@ -126,6 +127,7 @@ TEST_F(GameFileTest, AFailedSaveLeavesTheOldFileWhole) {
         for (const std::string& old : {std::string("old"), std::string(999, 'x')}) {
             WriteBytes("file", old);
             fs::permissions("file", fs::perms(0640));
+            const bool mayGiveAway = chown("file", 1, 1) == 0;
             if (name == "name" && !fs::exists(name)) fs::create_hard_link("file", name);
             std::ifstream reader("file");
             for (const rlim_t limit : {rlim_t{0}, rlim_t{100}, unlimited}) {
@@ -138,6 +140,8 @@ TEST_F(GameFileTest, AFailedSaveLeavesTheOldFileWhole) {
                           "overwrite? " + (limit == unlimited ? Example : "7 " + old));
             }
             EXPECT_EQ(fs::status("file").permissions(), fs::perms(0640));
+            struct stat state {};
+            EXPECT_TRUE(!mayGiveAway || (stat("file", &state) == 0 && state.st_uid == 1));
             EXPECT_EQ(BytesOf("file"), BytesOf(name));
             // Who has opened the file before still reads the old one.
             const std::string read{std::istreambuf_iterator<char>(reader), {}};
@@ -173,7 +177,8 @@ TEST_F(GameFileTest, AFileIsReadAgainWhenItsGameIsGone) {
     }
 }
 
-/// What a new file is to be called can be taken in the last moment; nothing is lost unasked.
+/// Another program can create a file of that name at the last moment. It is not overwritten
+/// unasked.
 TEST_F(GameFileTest, ANewFileIsNotMadeThroughALink) {
     fs::create_symlink("target", "link");
     for (const bool answer : {false, true}) {
