@@ -130,8 +130,8 @@ GameReading ReadGame(NumberReader& file) {
     return IsGood(reading) ? ReadEntries(file, entries) : reading;
 }
 
-/// The start that the file LoadedFileName gave. Empty after a failed load and after a save to that
-/// file: then what it holds is not what was read.
+/// The start that the file LoadedFileName gave. Empty after a failed load or a save to that file,
+/// so that the file is read again.
 std::string StartRead;
 
 }  // namespace

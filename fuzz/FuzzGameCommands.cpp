@@ -93,7 +93,7 @@ SavedGame& SavedOf(int number) { return Saved[static_cast<std::size_t>(number % 
 
 void Save(Arguments a) {
     SavedGame& saved = SavedOf(a.A);
-    // So that no copy of it has to be kept on disk meanwhile.
+    // An empty file is overwritten without a copy on disk.
     saved.File.Write("");
     SaveGameFile(saved.File.Path());
     saved.From = PlayedFrom;

@@ -95,7 +95,7 @@ int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     const Position start = Pos;
     StepToTheEnd();
     const Position end = Pos;
-    // So that no copy of them has to be kept on disk meanwhile.
+    // An empty file is overwritten without a copy on disk.
     First.Write("");
     Second.Write("");
     SaveGameFile(First.Path());

@@ -63,7 +63,7 @@ void AddLabel(QWidget* parent, const LabelText& label, QWidget* buddy) {
     auto* widget = new QLabel(label.Text, parent);
     PlaceControl(*widget, label.Name, label.Place);
     widget->setBuddy(buddy);
-    // A combo box has the name of its label only.
+    // Qt names a combo box after its label, so the label needs the English name, too.
     widget->setAccessibleName(label.English);
     buddy->setAccessibleName(label.English);
 }

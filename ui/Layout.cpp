@@ -40,7 +40,7 @@ protected:
         deleteLater();
         const QMargins frame = window.windowHandle()->frameMargins();
         FrameSeen = QSize(frame.left() + frame.right(), frame.top() + frame.bottom());
-        // Not by the widget, whose own notion of the frame is out of date after a rebuild.
+        // QWidget::move would use a frame size that is out of date after a rebuild.
         window.windowHandle()->setPosition(MiddlePlace(window) + QPoint(frame.left(), frame.top()));
         return false;
     }

@@ -146,8 +146,8 @@ void MainWindow::BuildHiddenControls() {
 }
 
 /// The menu bar's room is a multiple of 4 logical pixels, which are whole device pixels at ratios
-/// of quarters: the board below then begins on a whole one. The rest lies above the bar; a bar
-/// higher than its items would have a broken line below them.
+/// of quarters: the board below then begins on a whole one. The spare pixels lie above the bar: a
+/// bar that is higher than its items has a broken line below them.
 void MainWindow::FixSize() {
     const int height = menuBar()->sizeHint().height();
     const int room = (height + 3) / 4 * 4;

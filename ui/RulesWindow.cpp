@@ -95,8 +95,8 @@ QFont TextFont() {
     return font;
 }
 
-/// How much narrower the text is painted than its font has it, so that every line ends before the
-/// window's right edge, or before the button where it stands beside that. At most 1.
+/// The factor, at most 1, by which the text is made narrower, so that every line ends before the
+/// window's right edge, or before the button if it stands beside the button.
 qreal Stretch(const QFontMetricsF& metrics) {
     constexpr int Margin = 8;
     const QRectF button = OkPlace.InPixels();

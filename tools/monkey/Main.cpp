@@ -17,9 +17,8 @@ constexpr std::string_view Usage =
     "Usage: window_monkey EVENTS [SEED]\n"
     "Random events on the real window, offscreen, which must neither crash nor hang nor show\n"
     "anything but the position. The same seed, 1 by default, gives the same events; they are\n"
-    "printed as they come. Status 1 after a failure, 77 where there can be no sandbox, SIGALRM "
-    "after\n"
-    "a minute without an event.\n";
+    "printed as they come. Status 1 after a failure, 77 where there can be no sandbox, SIGALRM\n"
+    "after a minute without an event.\n";
 constexpr std::int64_t Plenty = 1'000'000'000;
 
 void PrepareEnvironment() {

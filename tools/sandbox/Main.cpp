@@ -10,7 +10,8 @@ namespace {
 
 constexpr const char* Usage =
     "Usage: in_sandbox [--required] COMMAND [ARGUMENT...]\n"
-    "Runs the command where all files are read-only but those in /tmp and /var/tmp, which are empty\n"
+    "Runs the command where all files are read-only but those in /tmp and /var/tmp, which are "
+    "empty\n"
     "file systems in memory, and in the folder that BRASTEL_WRITABLE names. Where the system does\n"
     "not allow that, runs the command without, or, if it is required, ends with status 125.\n";
 

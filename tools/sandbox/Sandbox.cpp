@@ -28,10 +28,10 @@ constexpr const char* Home = "/tmp/home";
 constexpr std::uint64_t NoDevices = MOUNT_ATTR_NODEV;
 constexpr std::uint64_t ReadOnly = MOUNT_ATTR_RDONLY;
 
-/// Its name, which no other has.
+/// The name of the mount namespace of this process. No two namespaces have the same name.
 fs::path MountNamespace() { return fs::read_symlink("/proc/self/ns/mnt"); }
 
-/// A sandbox that is made by half is none.
+/// Ends the program if a step fails: half a sandbox protects nothing.
 void Require(bool isDone, const char* what) {
     if (isDone) return;
     std::perror(what);
@@ -51,7 +51,7 @@ bool HasOwnMounts() {
     return true;
 }
 
-/// For all mounts at and below a place, from which no change leads outside then.
+/// Sets attributes of all mounts at and below a place. Later mounts there are not seen outside.
 bool SetAttributes(int mounts, const char* path, std::uint64_t attributes) {
     mount_attr change{};
     change.attr_set = attributes;
@@ -87,7 +87,7 @@ std::vector<KeptPlace> PlacesToKeep() {
 void PutBack(const KeptPlace& place) {
     const bool isMissing = place.Mounts < 0;
     if (isMissing) return;
-    // The temporary folder hides the way there.
+    // The new /tmp may hide this path.
     if (!fs::exists(place.Path)) fs::create_directories(place.Path);
     Require(SetAttributes(place.Mounts, "", place.Attributes) &&
                 move_mount(place.Mounts, "", AT_FDCWD, place.Path.c_str(),
