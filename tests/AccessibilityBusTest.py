@@ -6,7 +6,7 @@ import sys
 import time
 
 import pyatspi
-from gi.repository import GLib
+from gi.repository import Atspi, GLib
 
 FOCUS = "object:state-changed:focused"
 SHOWING = "object:state-changed:showing"
@@ -58,6 +58,8 @@ def game():
     return next((item for item in desktop if item and item.name == "brastel"), None)
 
 
+# By default a call is given up after 0.8 seconds, which a busy machine can take.
+Atspi.set_timeout(10000, 15000)
 pyatspi.Registry.registerEventListener(hear, FOCUS, SHOWING)
 program = wait_for("the game", game)
 board = wait_for("the board", lambda: find(program, "Board"))
