@@ -144,6 +144,11 @@ bool WindowTest::IsItemChecked(const char* name) {
     return checked == 1 && Control<QAction>(name)->isChecked();
 }
 
+QImage WindowTest::OnScreen() {
+    QCoreApplication::processEvents();
+    return Window.screen()->grabWindow(Window.winId()).toImage();
+}
+
 void WindowTest::ExpectViewShowsPosition() { EXPECT_EQ(FirstWrongShown(Picture()), ""); }
 
 /// It waits for the computer, not for a time: on a slow machine the gesture that makes the computer

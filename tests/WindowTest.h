@@ -59,6 +59,8 @@ protected:
     bool IsShown(const char* name) { return Control<QWidget>(name)->isVisible(); }
     QString Message() { return Control<QLabel>("lbl_Message")->text().trimmed(); }
     QImage Picture() { return Form->grab().toImage(); }
+    /// What has been painted so far, and not what would be painted now.
+    QImage OnScreen();
     /// The item of the Level menu has a check mark, alone.
     bool IsItemChecked(const char* name);
     /// Every square shows the piece and ring that the position has there, and nothing else.
