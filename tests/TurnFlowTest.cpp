@@ -41,24 +41,6 @@ TEST_F(TurnFlowTest, AnOpponentInTheGoalIsNoReasonToPass) {
     EXPECT_NE(PlayedFrom[3], NoSquare);
 }
 
-/// Events are handled in the middle of the computer's move: what the user does then would change
-/// the position under the search.
-TEST_F(TurnFlowTest, WhatTheUserDoesMeanwhileIsIgnored) {
-    Run({{"load", "", "R3 B3 71-63 44-36 load level1 => 0 Red Forward"}});
-    Window.OnEvents = [] {
-        for (const char* command :
-             {"B8", "43-51", "44-35", "47-63", "hint", "forward", "back", "level7", "new"}) {
-            Do(command);
-        }
-    };
-    Do("R3");
-    EXPECT_NE(PlayedFrom[2], 85);
-    Do("71-63");
-    EXPECT_EQ(State(), "4 Red Back");
-    EXPECT_EQ(Level, 1);
-    EXPECT_EQ(Window.Searches, 2);
-}
-
 /// Long enough to draw "Thinking ...", and nothing is handled once the time is over; after the
 /// search, once more.
 TEST_F(TurnFlowTest, EventsAreHandledBeforeAndAfterASearch) {

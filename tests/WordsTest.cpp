@@ -115,48 +115,6 @@ TEST(WordsTest, TheOpeningIsTold) {
               "the ring of Red piece 2 goes into Red's goal");
 }
 
-bool Tells(const std::string& words, const std::string& part) {
-    return words.find(part) != std::string::npos;
-}
-
-/// Every piece that moved is named with where it now stands; none is that stayed without a ring.
-void CheckPieces(const Position& before, const Position& after, const std::string& words) {
-    for (const Int16 side : {Red, Blue}) {
-        for (int i = 1; i <= PieceCount(side); ++i) {
-            const bool isRed = side == Red;
-            const int from = (isRed ? before.RedSquare : before.BlueSquare)[i];
-            const int to = (isRed ? after.RedSquare : after.BlueSquare)[i];
-            const std::string name = PieceInWords({side, ToInt16(i)});
-            const bool isTold = Tells(words + ' ', name + ' ') || Tells(words, name + ';');
-            if (from != to) {
-                const bool inGoal = Tells(ContentInWords(to), "goal, ");
-                EXPECT_TRUE(isTold && Tells(words, inGoal ? "'s goal" : SquareInWords(to)))
-                    << name << " in " << words;
-            } else if (std::ranges::find(before.RingSquare, from) == before.RingSquare.end() &&
-                       std::ranges::find(after.RingSquare, to) == after.RingSquare.end()) {
-                EXPECT_FALSE(isTold) << name << " in " << words;
-            }
-        }
-    }
-}
-
-/// Single actions and positions far apart, forward and back.
-TEST(WordsTest, NoChangeIsLeftOutOrInvented) {
-    Dice dice(5);
-    for (int game = 0; game < 300; ++game) {
-        Wander(game % FreeSetupLayout, Below(dice, 60), dice);
-        const Position first = Pos;
-        for (int entries = Below(dice, 3) == 0 ? 9 : 1; entries > 0; --entries) {
-            const Action action = BothRingsPlaced() ? DrawAction(dice) : Action{68, 0};
-            ApplyMoveQuiet(action.first, action.second);
-            ++Pos.MoveCount;
-            GenerateMoves(1);
-        }
-        CheckPieces(first, Pos, ChangesInWords(first, Pos));
-        CheckPieces(Pos, first, ChangesInWords(Pos, first));
-    }
-}
-
 /// What a damaged file and a careless caller can hand over.
 TEST(WordsTest, DamagedPositionsAreTold) {
     Position wild;
