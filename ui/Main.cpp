@@ -17,6 +17,13 @@ namespace {
 
 [[noreturn]] void EndWithoutMemory() { End("Brastel: there is no memory left\n"); }
 
+/// Ends the program if there is less memory than it needs to open its window, about 45 MB: some
+/// libraries crash where they get none.
+void RequireMemory() {
+    constexpr std::size_t Enough = std::size_t{64} << 20;
+    ::operator delete(::operator new(Enough));
+}
+
 /// Qt throws std::bad_alloc of its own accord, where nobody catches it.
 [[noreturn]] void EndUncaught() {
     try {
@@ -52,6 +59,7 @@ int main(int /*argc*/, char* argv[]) {
     std::signal(SIGXFSZ, SIG_IGN);
     std::set_new_handler(EndWithoutMemory);
     std::set_terminate(EndUncaught);
+    RequireMemory();
     // No argument reaches the toolkit: the program knows no options.
     int count = 1;
     char* name[] = {argv[0], nullptr};
