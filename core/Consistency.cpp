@@ -47,7 +47,8 @@ std::string FirstInconsistency() {
     if (expected != Pos.Board) return "the cells differ from the squares of the pieces";
     if (!RingsInRange()) return "a ring lies off the board";
     if (!LastHitInRange()) return "the last hit names no piece";
-    if (std::abs(Pos.OutsideBalance) > MaxOutsideBalance) return "the outside balance ran away";
+    if (std::abs(Pos.OutsideBalance) > MaxOutsideBalance)
+        return "the outside balance is out of range";
     if (Pos.SideToMove != Red && Pos.SideToMove != Blue) return "nobody is to move";
     if (Pos.MoveCount < 1) return "the move count is below 1";
     return {};

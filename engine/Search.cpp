@@ -101,6 +101,8 @@ void SearchRoot(Int16 depth) {
     ValueRow(row, best);
 }
 
+bool CanBePlayed(MoveCode code) { return ActionFits(OriginOf(code), DestinationOf(code)); }
+
 /// The best of row 1, or the best that is allowed; 0 where there is none. Each candidate that
 /// reaches the best so far tosses a coin, the first one to do so included, so the last of k equals
 /// is taken with probability 1/2, the one before with 1/4.
@@ -127,8 +129,11 @@ Int16 ChooseCandidate(Int16 depth) {
     return SelectFromRoot();
 }
 
-bool CanBePlayed(MoveCode code) { return ActionFits(OriginOf(code), DestinationOf(code)); }
-
 Int16 ChoosePlayable() { return SelectFromRoot(CanBePlayed); }
+
+MoveCode PlayableCode(Int16 chosen) {
+    const MoveCode code = MoveList[SearchPly][chosen];
+    return CanBePlayed(code) ? code : MoveList[SearchPly][ChoosePlayable()];
+}
 
 }  // namespace brastel

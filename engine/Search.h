@@ -22,12 +22,13 @@ extern std::uint64_t SearchedPositions;
 /// on the bounds. The position is the same after the call.
 Int16 ChooseCandidate(Int16 depth);
 
-/// False for a goal entry onto an opponent who waits in the goal: a candidate that counts as a win
-/// and yet would push the opponent off the board.
-bool CanBePlayed(MoveCode code);
-
 /// Chooses as ChooseCandidate does, by the values that stand in row 1, but only among the
-/// candidates that can be played. 0 when there is none.
+/// candidates that can be played. 0 when there is none. A goal entry onto an opponent who waits in
+/// the goal cannot be played: it counts as a win, and yet would push the opponent off the board.
 Int16 ChoosePlayable();
+
+/// The code to play when this candidate of row 1, or 0 for none, was chosen: its own, or that of
+/// ChoosePlayable if it cannot be played.
+MoveCode PlayableCode(Int16 chosen);
 
 }  // namespace brastel

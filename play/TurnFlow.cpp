@@ -24,8 +24,8 @@ struct Action {
 Action ActionOf(Int16 chosen) {
     const bool isWithoutPlacement = !BothRingsPlaced() && chosen == 0;
     if (isWithoutPlacement) return {SquareOf({Pos.SideToMove, 1}), 0};
-    const Int16 index = CanBePlayed(MoveList[1][chosen]) ? chosen : ChoosePlayable();
-    return {OriginOf(MoveList[1][index]), DestinationOf(MoveList[1][index])};
+    const MoveCode code = PlayableCode(chosen);
+    return {OriginOf(code), DestinationOf(code)};
 }
 
 bool IsComputersTurn() {
