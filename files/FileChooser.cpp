@@ -168,7 +168,6 @@ void ForgetVisits() {
 }
 
 void OpenChooser(ChooserMode mode) {
-    Chooser = {};
     Chooser.Mode = mode;
     Chooser.Pattern = AllFiles;
     Chooser.NameBox = mode == ChooserMode::Open ? std::string(AllFiles) : ChosenFileName;

@@ -108,9 +108,7 @@ void KeyboardInput::TellFocus() {
 
 void KeyboardInput::ShowFocus() { Form->ShowFocus(IsFocusShown ? Focus : NoSquare); }
 
-QPoint KeyboardInput::FocusPoint() const {
-    return QPoint(SquareLeft(Focus), SquareTop(Focus)) + QPoint(CellSize / 2, CellSize / 2);
-}
+QPoint KeyboardInput::FocusCorner() const { return {SquareLeft(Focus), SquareTop(Focus)}; }
 
 void KeyboardInput::FocusOn(int square) {
     if (IsThinking || !IsOnBoard(square)) return;
@@ -129,9 +127,9 @@ void KeyboardInput::Press() {
     if (IsThinking) return;
     Mouse->Cancel();
     if (Held != NoSquare) return DropHere();
-    if (PieceOn(Focus)) return PickUp();
-    const QPoint point = FocusPoint();
-    Try([&] { emit Form_MouseUp(point.x(), point.y()); }, "nothing here");
+    const QPoint corner = FocusCorner();
+    if (IsPieceAt(corner.x(), corner.y())) return PickUp();
+    Try([&] { emit Form_MouseUp(corner.x(), corner.y()); }, "nothing here");
 }
 
 void KeyboardInput::PickUp() {
@@ -144,7 +142,7 @@ void KeyboardInput::DropHere() {
     const Piece held = PieceOn(Held);
     const QString name = PieceName(Held);
     Release();
-    Try([&] { Drop(held, FocusPoint()); }, name + " stays");
+    Try([&] { Drop(held, FocusCorner()); }, name + " stays");
 }
 
 void KeyboardInput::DoubleClick() {

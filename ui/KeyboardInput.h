@@ -54,7 +54,7 @@ private:
     void ShowFocus();
     void PickUp();
     void DropHere();
-    QPoint FocusPoint() const;
+    QPoint FocusCorner() const;
     /// Makes a gesture, and tells if nothing came of it: who does not see the board would wait.
     void Try(const std::function<void()>& gesture, const QString& failure);
 

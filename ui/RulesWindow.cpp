@@ -63,7 +63,6 @@ constexpr const char* RulesText[] = {
     "",
     "",
     "",
-    "",
     "  The object of the game is to finish with more pieces than your opponent. To move, you",
     "  must select one of your current pieces first, which will begin to flash. You can move",
     "  to any position up to two squares away in any direction. A move one square away",
