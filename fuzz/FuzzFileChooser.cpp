@@ -2,16 +2,17 @@
 /// happens in a root of its own, so that the worst that it can overwrite are its own files.
 
 #include "files/FileChooser.h"
-#include "files/GameFile.h"
-#include "fuzz/FuzzGame.h"
 #include "fuzz/FuzzTarget.h"
-#include "play/GameRecord.h"
-#include "tools/sandbox/Sandbox.h"
+#include "tests/Sandbox.h"
+#include "tools/player/Headless.h"
+#include "tools/player/Require.h"
 
 #include <algorithm>
 #include <fcntl.h>
 #include <filesystem>
 #include <fstream>
+#include <iostream>
+#include <string_view>
 #include <sys/stat.h>
 #include <unistd.h>
 
@@ -23,55 +24,53 @@ namespace fs = std::filesystem;
 constexpr int MostEntries = 12;
 constexpr int MostCommands = 40;
 
-ShownGame Game;
+/// The bytes of the input that are left; behind them come zeros without end.
+std::string_view Input;
 
-/// The answer to the question whether to overwrite comes from the input, too.
-class AskedFiles : public ShownFiles {
-public:
-    bool Answer = false;
-    bool AskYesOrNo(const std::string& /*text*/, const std::string& /*title*/) override {
-        return Answer;
-    }
-};
-AskedFiles Files;
+int Byte() {
+    if (Input.empty()) return 0;
+    const auto byte = static_cast<unsigned char>(Input.front());
+    Input.remove_prefix(1);
+    return byte;
+}
+
+/// A byte tells the length of the text behind it.
+std::string Text() {
+    const auto length = static_cast<std::size_t>(Byte());
+    std::string text(Input.substr(0, length));
+    Input.remove_prefix(text.size());
+    return text;
+}
 
 // ---- What lies on the disk. What cannot be made, such as a file in a missing folder, is not. ----
 
-void WriteFile(const std::string& path, const std::string& bytes) {
-    std::ofstream(path, std::ios::binary) << bytes;
-}
-
-void MakeEntry(FuzzInput& input) {
-    const int kind = input.Between(0, 5);
-    const std::string path = input.Text();
-    const std::string content = input.Text();
+/// Nothing else is overwritten: to open a pipe would wait for its reader.
+void WriteEntry(const std::string& path, const std::string& bytes) {
     std::error_code ignored;
-    switch (kind) {
-        case 0:
-            fs::create_directories(path, ignored);
-            break;
-        case 1:
-            fs::create_symlink(content, path, ignored);
-            break;
-        case 2:
-            mkfifo(path.c_str(), 0666);
-            break;
-        case 3:
-            fs::remove(path, ignored);
-            break;
-        default:
-            WriteFile(path, content);
-    }
+    const bool isFree = !fs::exists(path, ignored) || fs::is_regular_file(path, ignored);
+    if (isFree) std::ofstream(path, std::ios::binary) << bytes;
 }
 
-/// The table of mounts and the program's own place are files like any other here.
-void MakeDisk(FuzzInput& input) {
+void MakeEntry() {
+    const int kind = Byte() % 6;
+    const std::string path = Text();
+    const std::string content = Text();
+    std::error_code ignored;
+    if (kind == 0) fs::create_directories(path, ignored);
+    if (kind == 1) fs::create_symlink(content, path, ignored);
+    if (kind == 2) mkfifo(path.c_str(), 0666);
+    if (kind == 3) fs::remove(path, ignored);
+    if (kind > 3) WriteEntry(path, content);
+}
+
+/// The table of mounts and the program's own place are files like any other here, but no pipes.
+void MakeDisk() {
     std::error_code ignored;
     fs::create_directories("/proc/self", ignored);
-    WriteFile("/proc/self/mountinfo", input.Text());
-    fs::create_symlink(input.Text(), "/proc/self/exe", ignored);
-    for (int n = input.Between(0, MostEntries); n > 0; --n) MakeEntry(input);
-    fs::current_path(input.Text(), ignored);
+    WriteEntry("/proc/self/mountinfo", Text());
+    fs::create_symlink(Text(), "/proc/self/exe", ignored);
+    for (int n = Byte() % (MostEntries + 1); n > 0; --n) MakeEntry();
+    fs::current_path(Text(), ignored);
 }
 
 // ---- What the user does ----
@@ -83,75 +82,46 @@ void RequireSoundDialog() {
     const auto isCurrent = [](const FolderRow& row) { return row.Path == Chooser.Folder; };
     Require(std::ranges::any_of(Chooser.Folders, isCurrent), "the current folder is not listed");
     Require(std::ranges::is_sorted(Chooser.Files), "the files are out of order");
-    RequireSound(Game);
+    RequireSound();
 }
 
-/// Opens the dialog, or does one thing in it.
-void RunCommand(FuzzInput& input) {
-    enum { Open, Save, Drive, Folder, Click, Choose, Confirm, Type, Disk, Count };
-    const int command = input.Between(0, Count - 1);
-    const int row = input.Byte() - 1;
-    bool closes = false;
-    switch (command) {
-        case Open:
-            OpenChooser(ChooserMode::Open);
-            break;
-        case Save:
-            OpenChooser(ChooserMode::Save);
-            break;
-        case Drive:
-            ChooseDrive(row);
-            break;
-        case Folder:
-            ChooseFolder(row);
-            break;
-        case Click:
-            ClickFile(row);
-            break;
-        case Choose:
-            closes = ChooseFile(row);
-            break;
-        case Confirm:
-            closes = ConfirmName(Chooser.NameBox);
-            break;
-        case Disk:
-            MakeEntry(input);
-            break;
-        default:
-            closes = ConfirmName(input.Text());
-    }
-    if (closes) OpenChooser(Chooser.Mode);
+/// Opens the dialog, or does one thing in it. True when it is to close.
+bool RunCommand() {
+    const int command = Byte() % 9;
+    const int row = Byte() - 1;
+    if (command < 2) OpenChooser(command == 0 ? ChooserMode::Open : ChooserMode::Save);
+    if (command == 2) ChooseDrive(row);
+    if (command == 3) ChooseFolder(row);
+    if (command == 4) ClickFile(row);
+    if (command == 5) return ChooseFile(row);
+    if (command == 6) return ConfirmName(Chooser.NameBox);
+    if (command == 7) return ConfirmName(Text());
+    if (command == 8) MakeEntry();
+    return false;
 }
 
-void UseDialog(FuzzInput& input) {
-    MakeDisk(input);
+void UseDialog() {
+    MakeDisk();
     OpenChooser(ChooserMode::Open);
-    for (int n = 0; n < MostCommands && !input.IsOver(); ++n) {
-        Files.Answer = n % 2 == 0;
-        RunCommand(input);
+    for (int n = 0; n < MostCommands && !Input.empty(); ++n) {
+        // To the question whether to overwrite.
+        Windows.Answer = n % 2 == 0;
+        if (RunCommand()) OpenChooser(Chooser.Mode);
         RequireSoundDialog();
     }
 }
 
 /// A folder of the sandbox, emptied, becomes the root of all paths while the input is used.
-void UseDialogInOwnRoot(FuzzInput& input) {
+void UseDialogInOwnRoot() {
     static const int realRoot = open("/", O_PATH | O_DIRECTORY | O_CLOEXEC);
     const fs::path before = fs::current_path();
     const fs::path root = fs::temp_directory_path() / "root";
     fs::remove_all(root);
     fs::create_directory(root);
     Require(chroot(root.c_str()) == 0 && chdir("/") == 0, "the root cannot be changed");
-    UseDialog(input);
+    UseDialog();
     Require(fchdir(realRoot) == 0 && chroot(".") == 0, "the way back is lost");
     fs::current_path(before);
-}
-
-[[noreturn]] void Skip() {
-    constexpr int Skipped = 77;
-    std::puts("Skipped: this system allows no sandbox.");
-    // Not as a crash, for which the fuzzer takes an exit.
-    std::fflush(stdout);
-    std::_Exit(Skipped);
 }
 
 }  // namespace
@@ -159,12 +129,15 @@ void UseDialogInOwnRoot(FuzzInput& input) {
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brastel;
-    static const bool isInSandbox = EnterSandbox();
-    if (!isInSandbox) Skip();
-    StartProgram(Game, Files);
-    Files.OpenMainWindow();
+    if (!IsInSandbox()) {
+        std::cerr << "Skipped: this system allows no sandbox.\n";
+        // Not as a crash, for which the fuzzer takes a mere exit.
+        std::_Exit(77);
+    }
+    StartProgram();
+    Windows.OpenMainWindow();
     ForgetVisits();
-    FuzzInput input(data, size);
-    UseDialogInOwnRoot(input);
+    Input = {reinterpret_cast<const char*>(data), size};
+    UseDialogInOwnRoot();
     return 0;
 }

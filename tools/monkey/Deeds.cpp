@@ -1,16 +1,9 @@
 #include "tools/monkey/Deeds.h"
 
-#include "core/Opening.h"
-#include "play/GameRecord.h"
-#include "play/GameState.h"
-#include "tools/Chance.h"
-#include "tools/monkey/Aims.h"
-#include "tools/monkey/EventLog.h"
 #include "tools/monkey/Hands.h"
+#include "tools/player/Chance.h"
 
-#include <QApplication>
 #include <QLineEdit>
-#include <QListWidget>
 #include <QMenuBar>
 
 namespace brastel {
@@ -21,230 +14,168 @@ namespace {
 constexpr Qt::MouseButton Buttons[] = {
     Qt::LeftButton, Qt::LeftButton, Qt::LeftButton, Qt::RightButton, Qt::MiddleButton,
     Qt::BackButton, Qt::ForwardButton};
-
-constexpr int Keys[] = {
-    Qt::Key_Escape, Qt::Key_Return, Qt::Key_Enter, Qt::Key_Tab, Qt::Key_Backtab, Qt::Key_Space,
-    Qt::Key_Left, Qt::Key_Right, Qt::Key_Up, Qt::Key_Down, Qt::Key_Home, Qt::Key_End,
-    Qt::Key_PageUp, Qt::Key_PageDown, Qt::Key_Insert, Qt::Key_Delete, Qt::Key_Backspace,
-    Qt::Key_F1, Qt::Key_F4, Qt::Key_F10, Qt::Key_Alt, Qt::Key_Menu, Qt::Key_Help};
 constexpr Qt::KeyboardModifiers Modifiers[] = {
     {}, {}, {}, Qt::AltModifier, Qt::ControlModifier, Qt::ShiftModifier, Qt::MetaModifier};
-/// Access keys of menus, items and dialogs; cut, copy, paste, select all.
-constexpr std::string_view Letters = "olhnscxrtedapgkyvz*.";
-
-const char* const Menus[] = {
-    "mnu_Options", "mnu_Options", "mnu_Options", "mnu_Level", "mnu_Level", "mnu_Help"};
-
+/// Access keys of menus, items and dialogs; cut, copy, paste, select all; what presses a button.
+constexpr std::string_view Letters = "olhnscxrtedapgkyvz*.    ";
+/// From Escape to Page Down; among the many behind them are F1 to F10, Alt, Menu and Help.
+constexpr int CommonKeys = Qt::Key_PageDown - Qt::Key_Escape + 1;
+constexpr int AllKeys = Qt::Key_Help - Qt::Key_Escape + 1;
 constexpr int MenuKeys[] = {Qt::Key_O, Qt::Key_L, Qt::Key_L, Qt::Key_H};
 
 /// In their folder, or to be made there.
-const QString Games[] = {
-    "03-example.txt", "06-passes.txt", "200-entries.txt", "01-free-setup-red-ready.txt",
-    "06-free-setup-uneven.txt", "unter/06-thirteen-red.txt", "unter/04-image.txt",
-    "unter/03-empty.txt", "unter/05-square-113.txt", "neu", "unter/tief/neu"};
+const char* const Games[] = {
+    "good/03-example.txt", "good/200-entries.txt", "good/01-free-setup-red-ready.txt",
+    "damaged/04-image.txt", "good/neu"};
+/// Whatever else may be typed, a fuzz target types without a window.
 const QString OddNames[] = {
-    "*.*", "*.txt", "?", "[a", "*", "unter", "unter/tief", "..", ".", "../..", "/", "//", "/proc",
-    "/dev/zero", "/proc/self/mem", "/root", "~", "", " ", "no such", "unter/../neu",
-    "no/such/folder", "\"quoted\"", "%s%n", "名前", "\u202eabc", "a\nb", QString(300, 'x'),
-    QString(5000, 'y'), QString(3000, '/')};
+    "*.*", "?", "good", "..", "/", "/proc", "/dev/zero", "/root", "", "no/such/folder", "%s%n",
+    "名前", "\u202eabc", "a\nb", QString(5000, 'y')};
 // clang-format on
+
+// ---- Places ----
+
+/// A point of the view in the main window.
+QPoint InWindow(QPoint point) { return GameWindow->centralWidget()->mapTo(GameWindow, point); }
+
+QPoint Centre(int square) {
+    const QPoint corner(SquareLeft(square), SquareTop(square));
+    return InWindow(corner + QPoint(CellSize / 2, CellSize / 2));
+}
+
+QPoint AnyIn(QRect area) {
+    const int x = area.x() + Roll(qMax(1, area.width()));
+    return {x, area.y() + Roll(qMax(1, area.height()))};
+}
+
+/// A place worth a click in the top window, or anywhere in it or around it.
+QPoint AnyPlace() {
+    QWidget& top = Top();
+    if (OneIn(8)) return AnyIn(top.rect().marginsAdded(QMargins() + 100));
+    if (&top == GameWindow && OneIn(2)) return Centre(1 + Roll(LastSquare));
+    QList<QWidget*> parts = top.findChildren<QWidget*>() << &top;
+    const QWidget* part = AnyOf(parts);
+    return part->mapTo(&top, OneIn(3) ? part->rect().center() : AnyIn(part->rect()));
+}
 
 // ---- Parts of deeds ----
 
-/// Press and release, and again; the place may come to lie in another window on the way.
-Plan Clicks(QPoint place, int count, Qt::MouseButton button) {
-    Plan plan;
+/// The place may come to lie in another window on the way.
+void Click(QPoint place, int count = 1, Qt::MouseButton button = Qt::LeftButton) {
     for (int n = 0; n < count; ++n) {
-        plan.emplace_back([=] { n == 0 ? Press(place, button) : PressAgain(place, button); });
-        plan.emplace_back([=] { Release(place, button); });
+        Press(place, button, n > 0);
+        Release(place, button);
     }
-    return plan;
 }
 
-Plan Drag(QPoint from, QPoint to, Qt::MouseButton button) {
-    return {
-        [=] { Press(from, button); },
-        [=] { Move((from + to) / 2); },
-        [=] { Move(to); },
-        [=] { Release(to, button); },
-    };
+void Click(const char* name) {
+    const auto* part = Top().findChild<QWidget*>(name);
+    if (part != nullptr) Click(part->mapTo(&Top(), part->rect().center()));
 }
 
-Plan Type(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {}) {
-    return {[=] { KeyDown(key, modifiers, text); }, [=] { KeyUp(key, modifiers, text); }};
-}
-
-Plan TypeName(const QWidget& box) {
-    const QString folder = QString::fromStdString(GamesFolder) + "/";
-    const QString name = OneIn(2) ? folder + AnyOf(Games) : AnyOf(OddNames);
-    return Clicks(MiddleOf(box), 1, Qt::LeftButton) + Type(Qt::Key_A, Qt::ControlModifier) +
-           Plan{[=] { Commit(name); }} + Type(Qt::Key_Return);
+/// Chooses an item of the named menu.
+void Choose(const char* name, QAction* item) {
+    auto* menu = GameWindow->findChild<QMenu*>(name);
+    const QMenuBar* bar = GameWindow->menuBar();
+    Click(bar->mapTo(GameWindow, bar->actionGeometry(menu->menuAction()).center()));
+    Click(menu->actionGeometry(item).center());
 }
 
 // ---- Deeds ----
 
-Plan DragPiece() {
-    const int from = AnyPieceSquare();
-    const int to = from + Roll(5) - 2 + (Roll(5) - 2) * Down;
-    return Drag(Centre(from), IsOnBoard(to) ? Centre(to) : AnyPlace(), AnyOf(Buttons));
+void PlayGesture() {
+    if (const Deed deed = DeedOf(DrawGesture())) deed();
 }
 
-Plan ClickButton() {
-    QList<QPushButton*> buttons;
-    for (QPushButton* button : Top().findChildren<QPushButton*>()) {
-        if (button->isVisible()) buttons.push_back(button);
-    }
-    if (buttons.empty()) return Clicks(AnyPlace(), 1, AnyOf(Buttons));
-    const QPushButton* button = AnyOf(buttons);
-    const bool isImpatient = OneIn(8);
-    return Clicks(MiddleOf(*button), isImpatient ? Roll(60) : 1, Qt::LeftButton);
+/// Some users are impatient.
+void ClickAnywhere() {
+    const QPoint place = AnyPlace();
+    const Qt::MouseButton button = AnyOf(Buttons);
+    Click(place, OneIn(30) ? Roll(60) : 1 + Roll(2), button);
 }
 
-/// Or only opens a menu.
-Plan ChooseByMouse() {
+void TypeKey() {
+    const Qt::KeyboardModifiers modifiers = AnyOf(Modifiers);
+    if (OneIn(20)) return Type(0, {}, QString(QChar(' ' + Roll(0xFFE0))));
+    if (OneIn(5)) return Type(AnyOf(MenuKeys), Qt::AltModifier);
+    const int keys = OneIn(4) ? AllKeys : CommonKeys;
+    if (!OneIn(4)) return Type(Qt::Key_Escape + Roll(keys), modifiers);
+    const QChar letter(AnyOf(Letters));
+    Type(letter.toUpper().unicode(), modifiers, letter);
+}
+
+void ChooseByMouse() {
+    constexpr std::array Menus{"mnu_Options", "mnu_Options", "mnu_Level", "mnu_Help"};
     const char* menu = AnyOf(Menus);
     QList<QAction*> items = GameWindow->findChild<QMenu*>(menu)->actions();
-    Plan plan = Choose(menu, AnyOf(items));
-    if (OneIn(5)) plan.resize(2);
-    return plan;
+    Choose(menu, AnyOf(items));
 }
 
-Plan TypeCharacter() {
-    if (OneIn(4)) return Type(0, {}, QString(QChar(' ' + Roll(0xFFF0))));
-    const QChar letter(AnyOf(Letters));
-    return Type(letter.toUpper().unicode(), AnyOf(Modifiers), letter);
+void TypeName() {
+    const QString folder = QString::fromStdString(GamesFolder) + "/";
+    const QString name = OneIn(2) ? folder + AnyOf(Games) : AnyOf(OddNames);
+    Click("txtOpenSave");
+    Type(Qt::Key_A, Qt::ControlModifier);
+    Type(0, {}, name);
+    Type(Qt::Key_Return);
 }
 
-Plan ChooseByKeys() {
-    Plan plan = Type(AnyOf(MenuKeys), Qt::AltModifier);
-    if (OneIn(2)) return plan + TypeCharacter();
-    for (int n = Roll(12); n > 0; --n) plan = plan + Type(Qt::Key_Down);
-    return plan + Type(Qt::Key_Return);
+/// Mostly a dialog is closed: a new main window is a new game.
+void ManageWindow() {
+    const int how = Roll(7);
+    if (how < 4) Shake(how, AnyIn({-500, -500, 2000, 2000}));
+    if (how == 4) Activate(OtherWindow);
+    if (how == 5) Activate(Top().windowHandle());
+    if (how == 6 && (&Top() != GameWindow || OneIn(4))) Close();
 }
 
-/// Mostly names and lists: the dialog's other parts are clicked by chance.
-Plan UseFileDialog() {
-    const auto* box = Top().findChild<QLineEdit*>("txtOpenSave");
-    if (box == nullptr) return Clicks(AnyPlace(), 1, AnyOf(Buttons));
-    if (OneIn(2)) return TypeName(*box);
-    const auto* list = Top().findChild<QListWidget*>(OneIn(3) ? "dirOpenSave" : "filOpenSave");
-    QWidget* rows = list->viewport();
-    return Clicks(rows->mapTo(&Top(), PlaceOn(*rows)), 1 + Roll(2), Qt::LeftButton);
-}
-
-void ChangeFocus() {
-    const int dice = Roll(4);
-    if (dice == 0) return Activate(OtherWindow);
-    if (dice == 1) return LeaveWindow(Top().windowHandle());
-    Activate(Top().windowHandle());
-}
-
-/// Resizing is refused by every window.
-void ShakeWindow() {
-    NoteEvent("shake");
-    QWidget& top = Top();
-    if (!top.isVisible() || top.windowType() == Qt::Popup) return;
-    const int dice = Roll(4);
-    if (dice == 0) top.resize(Roll(2000), Roll(2000));
-    if (dice == 1) top.move(Roll(2000) - 500, Roll(2000) - 500);
-    if (dice == 2) top.showMinimized();
-    if (dice == 3) top.showNormal();
-    QCoreApplication::processEvents();
-}
-
-/// Mostly a dialog: a new main window is a new game.
-void CloseWindow() {
-    QWidget* modal = QApplication::activeModalWidget();
-    if (modal != nullptr) return Close(modal->windowHandle());
-    if (OneIn(4)) Close(GameWindow->windowHandle());
-}
-
-Plan LegalOpening() {
-    const int side = IsPlacingRing(Red) ? Red : Blue;
-    if (InFreeSetup() && PieceCount(side) < (OneIn(8) ? 1 : MaxPieces)) {
-        int square = NoSquare;
-        while (!InField(square) || Pos.Board[square] != Empty) square = 1 + Roll(LastSquare);
-        return Clicks(Centre(square), 1, AnyOf(Buttons));
-    }
-    for (int i = std::min(PieceCount(side), LastRingPiece); i >= 1; --i) {
-        const int square = SquaresOf(side)[i];
-        if (square != NoSquare) return Clicks(Centre(square), 2, AnyOf(Buttons));
-    }
-    return {};
-}
-
-struct Deed {
+struct Row {
     int Weight;
-    Plan (*Make)();
+    void (*Do)();
 };
 
-constexpr Deed Deeds[] = {
-    {10, [] { return Clicks(AnyPlace(), 1, AnyOf(Buttons)); }},
-    {6, [] { return Plan{[] { Press(AnyPlace(), AnyOf(Buttons)); }}; }},
-    {6, [] { return Plan{[] { Release(AnyPlace(), AnyOf(Buttons)); }}; }},
-    {10, [] { return Plan{[] { Move(AnyPlace()); }}; }},
-    {8, [] { return Clicks(AnyPlace(), 2, AnyOf(Buttons)); }},
-    {14, DragPiece},
-    {14, [] { return IsThinking ? DragPiece() : LegalDeed(); }},
-    {10, ClickButton},
-    {8, ChooseByMouse},
-    {6, ChooseByKeys},
-    {16, [] { return Type(AnyOf(Keys), AnyOf(Modifiers)); }},
-    {4, TypeCharacter},
-    {20, UseFileDialog},
-    {3, [] { return Plan{[] { Wheel(AnyPlace(), OneIn(2) ? 120 : -120); }}; }},
-    {3, [] { return Plan{[] { Tap(AnyPlace()); }}; }},
-    {4, [] { return Plan{ChangeFocus}; }},
-    {3, [] { return Plan{ShakeWindow}; }},
-    {2, [] { return Plan{CloseWindow}; }},
+constexpr std::array Rows{
+    Row{28, PlayGesture},
+    Row{28, ClickAnywhere},
+    Row{6, [] { Press(AnyPlace(), Qt::LeftButton); }},
+    Row{6, [] { Release(AnyPlace(), Qt::LeftButton); }},
+    Row{10, [] { Move(AnyPlace()); }},
+    Row{3, [] { Tap(AnyPlace()); }},
+    Row{26, TypeKey},
+    Row{10, ChooseByMouse},
+    Row{20, [] { Top().findChild<QWidget*>("txtOpenSave") ? TypeName() : ClickAnywhere(); }},
+    Row{8, ManageWindow},
 };
 
 }  // namespace
 
-void MakeGames() {
-    namespace fs = std::filesystem;
-    const fs::path from = BRASTEL_TEST_DATA;
-    fs::create_directories(GamesFolder / "unter" / "tief");
-    for (const auto* name : {"03-example.txt", "06-passes.txt", "200-entries.txt",
-                             "01-free-setup-red-ready.txt", "06-free-setup-uneven.txt"}) {
-        fs::copy(from / "good" / name, GamesFolder);
+void DoAnything() { DrawWeighted(Rows).Do(); }
+
+Deed DeedOf(const Gesture& gesture) {
+    const auto& [what, actor, target, x, y, number] = gesture;
+    const int from = SquareOf(actor);
+    const QPoint to = target ? Centre(SquareOf(target)) : InWindow({x, y});
+    const Qt::MouseButton button = AnyOf(Buttons);
+    if (what == Kind::Hint) return [] { Click("btn_Hint"); };
+    if (what == Kind::Forward) return [] { Click("btn_Forward"); };
+    if (what == Kind::Backward) return [] { Click("btn_Backward"); };
+    if (what == Kind::NewGame) {
+        return [] { Choose("mnu_Options", GameWindow->findChild<QAction*>("mnu_NewGame")); };
     }
-    fs::copy(from / "damaged", GamesFolder / "unter");
-}
-
-Plan operator+(Plan first, const Plan& then) {
-    first.insert(first.end(), then.begin(), then.end());
-    return first;
-}
-
-Plan AnyDeed() {
-    int left = 0;
-    for (const Deed& deed : Deeds) left += deed.Weight;
-    left = Roll(left);
-    const Deed* deed = Deeds;
-    while (left >= deed->Weight) left -= (deed++)->Weight;
-    return deed->Make();
-}
-
-Plan LegalDeed() {
-    if (!BothRingsPlaced()) return LegalOpening();
-    if (IsRecordFull()) {
-        const auto* button = GameWindow->findChild<QWidget*>("btn_Backward");
-        return Clicks(MiddleOf(*button), 1, Qt::LeftButton);
+    for (QAction* item : GameWindow->findChild<QMenu*>("mnu_Level")->actions()) {
+        const bool isChosen = what == Kind::LevelChoice && item->data() == number;
+        if (isChosen) return [item] { Choose("mnu_Level", item); };
     }
-    GenerateMoves(1);
-    const auto [from, to] = DrawAction(Chance);
-    if (from == NoSquare) return {};
-    return Drag(Centre(from), Centre(to), AnyOf(Buttons));
-}
-
-Plan Choose(const char* name, QAction* item) {
-    auto* menu = GameWindow->findChild<QMenu*>(name);
-    const QMenuBar* bar = GameWindow->menuBar();
-    const QPoint entry = bar->mapTo(GameWindow, bar->actionGeometry(menu->menuAction()).center());
-    const auto place = [=] { return menu->actionGeometry(item).center(); };
-    return Clicks(entry, 1, Qt::LeftButton) +
-           Plan{[=] { Press(place(), Qt::LeftButton); }, [=] { Release(place(), Qt::LeftButton); }};
+    if (what == Kind::Click) return [=] { Click(to, 1, button); };
+    if (!IsOnBoard(from) || (target && !IsOnBoard(SquareOf(target)))) return {};
+    if (what == Kind::DoubleClick) return [=] { Click(Centre(from), 2, button); };
+    if (what != Kind::Drop) return {};
+    return [=] {
+        Press(Centre(from), button);
+        Move((Centre(from) + to) / 2);
+        Move(to);
+        Release(to, button);
+    };
 }
 
 }  // namespace brastel

@@ -1,34 +1,22 @@
 #pragma once
 
-#include <QPoint>
+#include "tools/player/Gestures.h"
 
-#include <filesystem>
 #include <functional>
-#include <vector>
+#include <string>
 
-class QAction;
-
-/// What a user might do.
+/// What a user might do in the window.
 namespace brastel {
 
-/// A single event, decided at the moment at which it is due.
-using Step = std::function<void()>;
-using Plan = std::vector<Step>;
+/// A few events one after the other. While one of them is under way, others may come in.
+using Deed = std::function<void()>;
 
 /// Where the games lie that are loaded by their names: a folder of the sandbox.
-inline const std::filesystem::path GamesFolder = "/tmp/games";
+inline const std::string GamesFolder = "/tmp/games";
 
-/// Makes the folder, with folders and good and damaged games in it.
-void MakeGames();
+void DoAnything();
 
-Plan operator+(Plan first, const Plan& then);
-
-Plan AnyDeed();
-
-/// Changes the position if the window listens; empty where the rules leave nothing to do.
-Plan LegalDeed();
-
-/// Chooses an item of the named menu.
-Plan Choose(const char* menu, QAction* item);
+/// The gesture of the common list; none if it takes a dialog or cannot be done now.
+Deed DeedOf(const Gesture& gesture);
 
 }  // namespace brastel

@@ -1,38 +1,40 @@
 #pragma once
 
+#include "ui/MainWindow.h"
+
 #include <QWindow>
 
-/// One mouse, one keyboard, a touch screen and what a window manager does. Each call is one event,
-/// which takes the way of a real one through the window system's queue as far as Qt lets it, and is
-/// noted in the event log. Windows that are gone get nothing.
+#include <string>
+
+/// One mouse, one keyboard, a touch screen and what a window manager does. Each call is an event,
+/// which takes the way of a real one through the window system's queue as far as Qt lets it. It is
+/// printed as it comes: the last lines tell what led to a crash. A window that is away gets
+/// nothing.
 namespace brastel {
 
-// ---- Mouse: in the top window, or in the one where it was pressed and is still held ----
+/// The main window, from its opening until it is closed.
+inline MainWindow* GameWindow = nullptr;
+/// Another program's.
+inline QWindow* OtherWindow = nullptr;
 
-void Press(QPoint place, Qt::MouseButton button);
-/// Soon enough after the last press to be its double.
-void PressAgain(QPoint place, Qt::MouseButton button);
+/// What the lines of the events to come begin with.
+inline std::string EventName;
+
+/// What gets the events: the open menu, the dialog or the main window.
+QWidget& Top();
+
+/// `again` soon enough after the last press to be its double.
+void Press(QPoint place, Qt::MouseButton button, bool again = false);
 void Move(QPoint place);
 void Release(QPoint place, Qt::MouseButton button);
-Qt::MouseButtons HeldButtons();
-/// Releases one of the buttons that are held.
-void ReleaseOne(QPoint place);
-void Wheel(QPoint place, int delta);
 void Tap(QPoint place);
 
-// ---- Keyboard: to the window that has it ----
-
-void KeyDown(int key, Qt::KeyboardModifiers modifiers, const QString& text);
-void KeyUp(int key, Qt::KeyboardModifiers modifiers, const QString& text);
-/// As an input method does.
-void Commit(const QString& text);
-
-// ---- Window manager ----
+/// A key pressed and released, in the window that has the keyboard.
+void Type(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {});
 
 void Activate(QWindow* window);
-void Restore(QWindow* window);
-void LeaveWindow(QWindow* window);
-/// Nothing for a window behind a modal one: its close box is dead.
-void Close(QWindow* window);
+/// Resizes, moves, minimizes or shows the window. Resizing is refused by every one.
+void Shake(int how, QPoint by);
+void Close();
 
 }  // namespace brastel

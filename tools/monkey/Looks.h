@@ -1,18 +1,18 @@
 #pragma once
 
-#include <string>
+#include <QWidget>
 
-/// What must hold. A failure says what is wrong, removes the scratch folder and ends the
-/// program.
+/// What must hold of the window. A fault is thrown.
 namespace brastel {
 
-void Expect(bool isRight, const std::string& otherwise);
+/// The outline of the piece that is being dragged; mostly hidden.
+QWidget& Outline();
 
 /// The main window is as it must stay.
 void RememberWindow();
 
 /// The main window's controls agree with the game.
-void LookAtGame();
+void LookAtControls();
 
 /// The screen shows the position, now or soon.
 void LookAtPicture();

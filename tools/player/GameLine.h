@@ -1,0 +1,47 @@
+#pragma once
+
+#include "play/GameView.h"
+#include "tests/Snapshot.h"
+
+#include <vector>
+
+/// The game being played, entry by entry. All operations leave the game itself as it is, and fail
+/// at the first fault.
+namespace brastel {
+
+/// As long as this lives, nothing is shown; then all is again as it was.
+class Aside {
+public:
+    Aside() { SetView(nullptr); }
+    ~Aside() {
+        Before.Restore();
+        SetView(Shows);
+    }
+    Aside(const Aside&) = delete;
+    Aside& operator=(const Aside&) = delete;
+
+private:
+    Snapshot Before;
+    GameView* Shows = View;
+};
+
+/// From the game's start on: Line[k] is the position after k entries. Empty in a free setup.
+inline std::vector<Position> Line;
+
+/// False where a piece was placed outside that could come back at once: in play the first action
+/// brings it back, on replay an action near it.
+inline bool LineIsExact = true;
+
+/// Follows the game from its start to where it stands.
+void BeginLine();
+
+enum class Origin { Person, Computer, Record };
+
+/// Follows the entries from `first` on, the first of them of this origin and the others of the
+/// computer's. Each must lead to the same position however it is played, where all is in order and
+/// the candidates are what the rules of people accept.
+void FollowLine(int first, Origin origin);
+
+void RequireConsistent();
+
+}  // namespace brastel
