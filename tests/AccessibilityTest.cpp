@@ -1,11 +1,11 @@
-#include "core/StartPosition.h"
 #include "play/GameState.h"
 #include "play/Words.h"
+#include "tests/FilesTest.h"
 #include "tests/WindowTest.h"
+#include "ui/BoardView.h"
 
 #include <QAbstractButton>
 #include <QAccessible>
-#include <QDialog>
 #include <qpa/qplatformaccessibility.h>
 #include <qpa/qplatformintegration.h>
 
@@ -30,21 +30,16 @@ protected:
         QAccessible::installUpdateHandler(nullptr);
     }
 
-    struct Event {
-        QAccessible::Event Type;
-        /// The part of the board that it tells of; null for widgets.
-        QAccessibleInterface* Part;
-    };
+    /// With the part of the board that it tells of; null for widgets.
+    using Event = std::pair<QAccessible::Event, QAccessibleInterface*>;
     static inline std::vector<Event> Heard;
 
     static void Hear(QAccessibleEvent* event) {
         const bool isPart = event->object() == nullptr;
-        Heard.push_back({event->type(), isPart ? event->accessibleInterface() : nullptr});
+        Heard.emplace_back(event->type(), isPart ? event->accessibleInterface() : nullptr);
     }
-    bool HasHeard(QAccessible::Event type, int square) {
-        return std::any_of(Heard.begin(), Heard.end(), [&](const Event& event) {
-            return event.Type == type && event.Part == Square(square);
-        });
+    bool HasHeard(QAccessible::Event type, int child) {
+        return std::ranges::count(Heard, Event(type, Child(child))) > 0;
     }
 
     /// Offscreen, nobody asks for events, and none are sent then.
@@ -53,214 +48,116 @@ protected:
     }
 
     QAccessibleInterface* Board() { return QAccessible::queryAccessibleInterface(Form); }
-    QAccessibleInterface* Square(int square) { return Board()->child(square - 1); }
+    /// A square, or what comes behind the squares.
+    QAccessibleInterface* Child(int number) { return Board()->child(number - 1); }
     static QString NameOf(QAccessibleInterface* object) { return object->text(QAccessible::Name); }
-    QString NameOf(const char* control) {
-        return NameOf(QAccessible::queryAccessibleInterface(Control<QWidget>(control)));
-    }
     /// Also lets be done what was only asked for.
-    void Do(int square, const QString& action) {
-        Square(square)->actionInterface()->doAction(action);
+    void Act(int square, const QString& action) {
+        Child(square)->actionInterface()->doAction(action);
         QCoreApplication::processEvents();
-    }
-    void PressSquare(int square) { Do(square, QAccessibleActionInterface::pressAction()); }
-
-    QAccessibleInterface* Find(const QString& name) {
-        for (int n = 0; n < Board()->childCount(); ++n) {
-            if (NameOf(Board()->child(n)) == name) return Board()->child(n);
-        }
-        return nullptr;
-    }
-
-    /// Lets all be read out that was done so far.
-    static void Forget() {
-        QTest::qWait(10);
-        Heard.clear();
     }
 
     /// Waits for a text and returns it.
-    static std::string ReadOut() {
-        std::string text;
-        const bool isSpoken = QTest::qWaitFor([&text] {
-            for (const auto& [type, part] : Heard) {
-                const bool isText = type == QAccessible::ObjectShow && part != nullptr &&
-                                    part->role() == QAccessible::Notification;
-                if (isText) text = NameOf(part).toStdString();
-            }
-            return !text.empty();
-        });
-        EXPECT_TRUE(isSpoken);
-        Heard.clear();
-        return text;
+    std::string ReadOut() {
+        constexpr int Announcement = LastSquare + 3;
+        EXPECT_TRUE(QTest::qWaitFor([this] {
+            return HasHeard(QAccessible::ObjectShow, Announcement) &&
+                   !NameOf(Child(Announcement)).isEmpty();
+        }));
+        EXPECT_EQ(Child(Announcement)->role(), QAccessible::Notification);
+        return NameOf(Child(Announcement)).toStdString();
     }
 };
 
 TEST_F(AccessibilityTest, EverySquareSaysWhatStandsThere) {
-    OpenForTwo(3, 68, 44);
+    Do("layout3 mnu_TwoPlayer");
+    for (const int square : {68, 44}) Act(square, "Give ring");
+    EXPECT_EQ(Pos.MoveCount, 3);
     for (int square = FirstSquare; square <= LastSquare; ++square) {
-        EXPECT_EQ(NameOf(Square(square)).toStdString(), SquareWithContent(square));
+        QAccessibleInterface* part = Child(square);
+        EXPECT_EQ(NameOf(part).toStdString(), SquareWithContent(square));
+        EXPECT_EQ(part->role(), QAccessible::Button);
+        const QPoint place = Form->mapToGlobal(Centre(square));
+        EXPECT_EQ(part->rect(), QRect(place - QPoint(20, 20), QSize(40, 40)));
+        EXPECT_EQ(Board()->childAt(place.x(), place.y()), part);
+        EXPECT_EQ(part->state().focused, square == 44);
+        EXPECT_TRUE(part->state().focusable && part->state().selectable);
     }
-    const QPoint place = Form->mapToGlobal(Centre(68));
-    EXPECT_EQ(NameOf(Board()->childAt(place.x(), place.y())), NameOf(Square(68)));
+    Act(66, "SetFocus");
+    EXPECT_EQ(Board()->focusChild(), Child(66));
+    Act(66, "Press");
+    EXPECT_TRUE(Child(66)->state().selected);
+    QAccessibleActionInterface* actions = Child(66)->actionInterface();
+    EXPECT_EQ(actions->actionNames(), QStringList({"Press", "SetFocus", "Give ring"}));
+    EXPECT_EQ(actions->keyBindingsForAction("Press"), QStringList("Space"));
+    EXPECT_EQ(actions->keyBindingsForAction("Give ring"), QStringList("R"));
 }
 
-TEST_F(AccessibilityTest, TheWholeTreeIsSound) {
-    Open(5);
-    QList<QAccessibleInterface*> open{QAccessible::queryAccessibleInterface(&Window)};
-    int named = 0;
-    while (!open.empty()) {
-        QAccessibleInterface* object = open.takeLast();
-        ASSERT_TRUE(object->isValid());
-        named += !NameOf(object).isEmpty();
-        for (int n = 0; n < object->childCount(); ++n) {
-            QAccessibleInterface* child = object->child(n);
-            ASSERT_NE(child, nullptr) << NameOf(object).toStdString() << " " << n;
-            EXPECT_EQ(object->indexOfChild(child), n) << NameOf(child).toStdString();
-            EXPECT_EQ(child->parent(), object) << NameOf(child).toStdString();
-            open.append(child);
-        }
+/// What comes behind the squares, and that all parts know their place.
+TEST_F(AccessibilityTest, ThePanelIsRead) {
+    const auto description = [this](QAccessibleInterface* part) {
+        return part->text(QAccessible::Description).toStdString();
+    };
+    EXPECT_TRUE(description(Board()).starts_with("Arrow keys move, ") &&
+                description(Board()).ends_with(BoardView::OpeningHelp().toStdString()));
+    Do("layout3 mnu_TwoPlayer !68 !44 69-61");
+    ShowStatus(RedWinsText);
+    QString words;
+    for (int n = 0; n < Board()->childCount(); ++n) {
+        QAccessibleInterface* part = Board()->child(n);
+        EXPECT_TRUE(part->parent() == Board() && Board()->indexOfChild(part) == n);
+        if (n >= LastSquare) words += NameOf(part) + ", ";
     }
+    EXPECT_EQ(words.toStdString(),
+              "Red's turn circle: waiting, Blue's turn circle: to move, Red piece 4 from row 9, "
+              "column 5 to row 8, column 5, Forward, Backward, Hint, Status line: Red Wins!, ");
     EXPECT_EQ(Board()->child(-1), nullptr);
     EXPECT_EQ(Board()->child(Board()->childCount()), nullptr);
-    EXPECT_GT(named, 112 + 20) << "squares, panel, menus";
+    EXPECT_EQ(description(Child(113)) + description(Child(114)), "Blue to move");
 }
 
-TEST_F(AccessibilityTest, ThePanelHasNames) {
-    OpenForTwo(3, 68, 44);
-    EXPECT_NE(Find("Red's turn circle: to move"), nullptr);
-    EXPECT_NE(Find("Blue's turn circle: waiting"), nullptr);
-    Drag(69, 61);
-    EXPECT_NE(Find("Blue's turn circle: to move"), nullptr);
-    EXPECT_EQ(NameOf("lbl_Message"), "Status line: empty");
-    ShowStatus(RedWinsText);
-    EXPECT_EQ(NameOf("lbl_Message"), "Status line: Red Wins!");
-    for (const char* button : {"Forward", "Backward", "Hint"}) EXPECT_NE(Find(button), nullptr);
-    EXPECT_EQ(Find("Undo"), nullptr) << "never shown, so never read";
-    const std::pair<const char*, const char*> descriptions[] = {
-        {"Blue's turn circle: to move", "Blue to move"},
-        {"Backward", "Takes back one move; the computer then waits"},
-        {"Hint", "Plays the best move for the side to move"}};
-    for (const auto& [name, description] : descriptions) {
-        EXPECT_EQ(Find(name)->text(QAccessible::Description), description);
-    }
-    EXPECT_TRUE(Board()->text(QAccessible::Description).startsWith("Arrow keys move, "));
-    Open(3);
-    EXPECT_TRUE(Board()->text(QAccessible::Description).endsWith(" to give it the ring"));
-}
-
-TEST_F(AccessibilityTest, MovesAndMessagesAreReadOut) {
-    OpenForTwo(0, 68, 44);
-    Forget();
-    Drag(69, 61);
-    EXPECT_EQ(ReadOut(), "Red piece 2 from row 9, column 5 to row 8, column 5");
-    Drag(45, 53);
-    Forget();
-    Drag(61, 53);
-    EXPECT_EQ(ReadOut(),
-              "Red piece 2 from row 8, column 5 to row 7, column 5, pushes Blue piece 2 to row 5, "
-              "column 5");
-    Drag(37, 53);
-    EXPECT_EQ(ReadOut(), "You Cant't Push Back");
-    ClickButton("btn_Backward");
-    EXPECT_TRUE(ReadOut().starts_with("Taken back: ")) << "not told as a move";
-    ChooseFromMenu("mnu_Options", "mnu_NewGame");
-    EXPECT_EQ(ReadOut(), "At the start");
-    SelectStartLayout(FreeSetupLayout);
-    ChooseFromMenu("mnu_Options", "mnu_NewGame");
-    EXPECT_EQ(ReadOut(), "At the start, the board is empty");
-}
-
-/// A player who does not see the board would wait for something to happen.
-TEST_F(AccessibilityTest, WhatIsRefusedIsReadOut) {
-    OpenForTwo(3, 68, 44);
-    Forget();
-    PressSquare(58);
-    EXPECT_EQ(ReadOut(), "nothing here");
-    Do(66, "Give ring");
-    EXPECT_EQ(ReadOut(), "both rings are placed already");
-}
-
-TEST_F(AccessibilityTest, TheComputersAnswerIsReadOut) {
-    Open(3);
-    DoubleClick(69);
-    Forget();
-    Drag(67, 59);
-    const std::string own = "Red piece 2 from row 9, column 3 to row 8, column 3. Blue piece ";
-    const std::string text = ReadOut();
-    EXPECT_TRUE(text.starts_with(own)) << text;
-}
-
-/// Hidden text boxes used to tell of each of their texts, hundreds after a move, and Orca, which
-/// drops what comes when a hundred events wait, read out nothing.
-TEST_F(AccessibilityTest, AMoveIsToldInFewEvents) {
-    constexpr std::size_t Few = 50;
-    Open(3);
-    Forget();
-    DoubleClick(69);
-    ReadOut();
-    for (const int from : {67, 66}) {
-        Drag(from, from - 8);
-        QTest::qWait(60);
-        EXPECT_LT(Heard.size(), Few);
+/// In few events: hidden text boxes used to tell of each of their texts, hundreds after a move, and
+/// Orca, which drops what comes when a hundred events wait, read out nothing.
+TEST_F(AccessibilityTest, WhatHappensIsReadOut) {
+    for (const auto& [gestures, words] : RowsOf("/reading.txt")) {
         Heard.clear();
+        Do(gestures);
+        const std::string text = ReadOut();
+        EXPECT_TRUE(text.starts_with(words)) << gestures << ": " << text;
+        EXPECT_LT(Heard.size(), 100) << gestures;
     }
 }
 
-TEST_F(AccessibilityTest, ChangedSquaresAreTold) {
-    OpenForTwo(3, 68, 44);
-    Forget();
-    Drag(66, 58);
-    QTest::qWait(1);
-    for (const int square : {66, 58}) {
-        EXPECT_TRUE(HasHeard(QAccessible::NameChanged, square)) << square;
+TEST_F(AccessibilityTest, ChangedPartsAreTold) {
+    Do("layout3 mnu_TwoPlayer !68 !44");
+    Heard.clear();
+    Do("66-58");
+    constexpr int Circles = LastSquare + 1;
+    for (const int child : {66, 58, Circles, Circles + 1}) {
+        EXPECT_TRUE(HasHeard(QAccessible::NameChanged, child)) << child;
     }
     EXPECT_FALSE(HasHeard(QAccessible::NameChanged, 67));
-}
-
-TEST_F(AccessibilityTest, DialogsCanBeRead) {
-    const char* const Rows[][4] = {
-        {"mnu_Help", "mnu_Rules", "frm_Rules", "Orvel Game Rules: 1. The first player"},
-        {"mnu_Options", "mnu_GameSize", "frm_GameSize", "Change Piece Number: "},
-        {"mnu_Options", "mnu_GameSize", "btn_GameSize3", "8: Select Piece Number"},
-        {"mnu_Options", "mnuFileItem2", "frmOpenSave", "Save Game: "},
-        {"mnu_Options", "mnuFileItem2", "txtOpenSave", "File name: "},
-        {"mnu_Options", "mnuFileItem2", "filOpenSave", "Files: "},
-        {"mnu_Options", "mnuFileItem2", "dirOpenSave", "Folders: "},
-        {"mnu_Options", "mnuFileItem2", "lblOpenSave3", "Drives: "},
-        {"mnu_Options", "mnuFileItem2", "cmdOpenSave1", "Cancel: "}};
-    for (const auto& row : Rows) {
-        ChooseAndAnswer(row[0], row[1], {[&row](QWidget& dialog) {
-                            auto* part = dialog.findChild<QWidget*>(row[2]);
-                            auto* object = QAccessible::queryAccessibleInterface(
-                                part != nullptr ? part : &dialog);
-                            const QString words =
-                                NameOf(object) + ": " + object->text(QAccessible::Description);
-                            EXPECT_TRUE(words.startsWith(row[3])) << words.toStdString();
-                            qobject_cast<QDialog*>(&dialog)->reject();
-                        }});
-    }
+    Do("Left");
+    EXPECT_TRUE(HasHeard(QAccessible::Focus, 65));
 }
 
 /// Calls of assistive technology are no events, so they reach the board even where mouse and
 /// keyboard do not.
 TEST_F(AccessibilityTest, SquaresCannotBePressedAtTheWrongTime) {
-    Open(3);
-    DoubleClick(69);
+    Do("layout3 !69");
     WhileThinking([this] {
-        PressSquare(70);
-        Do(70, "Give ring");
-        EXPECT_FALSE(Square(70)->state().selected);
+        Act(70, "Press");
+        Act(70, "Give ring");
+        EXPECT_FALSE(Child(70)->state().selected);
     });
-    Drag(67, 59);
+    Do("67-59");
     EXPECT_EQ(Pos.MoveCount, 5);
     const Position position = Pos;
-    ChooseAndAnswer("mnu_Help", "mnu_Rules", {[this](QWidget& dialog) {
-                        PressSquare(70);
-                        PressSquare(62);
+    ChooseAndAnswer("mnu_Rules", {[this](QWidget& dialog) {
+                        Act(70, "Press");
+                        Act(62, "Press");
                         // A dialog behind a dialog could not be left.
-                        Control<QAction>("mnuFileItem1")->trigger();
-                        Control<QAbstractButton>("btn_Hint")->click();
-                        QCoreApplication::processEvents();
+                        Do("mnuFileItem1() btn_Hint()");
                         dialog.close();
                     }});
     EXPECT_EQ(Pos, position);

@@ -1,6 +1,6 @@
-#include "core/WinTest.h"
-#include "engine/Candidates.h"
-#include "tests/RandomPlay.h"
+#include "engine/Beam.h"
+#include "tests/ExpectedCandidates.h"
+#include "tests/PositionSource.h"
 
 #include <gtest/gtest.h>
 
@@ -10,57 +10,57 @@
 namespace brastel {
 namespace {
 
-using Codes = std::vector<MoveCode>;
-
-/// Only a slide covers so many squares of a column: two for a carrier, three for another piece.
-bool IsSlide(int from, int to) {
-    const int rows = std::abs(Row(from) - Row(to));
-    return Column(from) == Column(to) && Pos.Board[to] == Empty && rows >= 3 - IsRingSquare(from);
-}
-
-/// Only people take a ring carrier two steps at once without a friend to slide up to.
-bool IsLongCarrierStep(int from, int to) {
-    if (!IsRingSquare(from) || Pos.Board[to] != Empty) return false;
-    if (IsSlide(from, to)) return Pos.Board[to + (to > from ? Down : Up)] != Pos.SideToMove;
-    return std::abs(Row(from) - Row(to)) > 1 || std::abs(Column(from) - Column(to)) > 1;
-}
-
-/// What the rules of people accept, in the order on which every tie-break depends: the goal, slides
-/// up and down, then board order.
-Codes AcceptedFor(int from) {
-    Codes codes;
-    const auto slides = [from](MoveCode code) { return IsSlide(from, DestinationOf(code)); };
-    for (int to = FirstSquare; to <= LastSquare; ++to) {
-        if (!IsAccepted(from, to) || IsLongCarrierStep(from, to)) continue;
-        codes.push_back(EncodeMove(from, to));
-    }
-    std::stable_partition(codes.begin(), codes.end(), slides);
-    if (IsRingSquare(from) && IsGoalFront(Pos.SideToMove, from)) {
-        codes.insert(codes.begin(), EncodeMove(from, GoalSquare(Pos.SideToMove)));
-    }
-    return codes;
-}
-
-Codes Expected() {
-    Codes codes;
-    for (int i = 1; i <= PieceCount(Pos.SideToMove); ++i) {
-        const Int16 from = SquaresOf(Pos.SideToMove)[i];
-        // Rings go to the pieces on their own half of the board.
-        const bool isAtHome = (Row(from) > 6) == (Pos.SideToMove == Red);
-        const Codes placement(isAtHome ? 1 : 0, from);
-        const Codes more = BothRingsPlaced() ? AcceptedFor(from) : placement;
-        codes.insert(codes.end(), more.begin(), more.end());
-    }
-    return codes;
-}
-
 TEST(CandidatesTest, AreWhatTheRulesAccept) {
     Dice dice(1);
-    for (int game = 0; game < 300; ++game) {
-        Wander(game % FreeSetupLayout, game < 12 ? game / 6 : Below(dice, 80), dice);
-        GenerateMoves(1);
-        const Codes generated(&MoveList[1][1], &MoveList[1][1] + CandidateCount[1]);
-        ASSERT_EQ(generated, Expected()) << Listed();
+    for (int n = 0; n < 2000; ++n) {
+        DrawPosition(dice);
+        ASSERT_EQ(GeneratedCandidates(), ExpectedCandidates()) << Described();
+    }
+}
+
+// ---- The fast twin, inside the search ----
+
+/// The highest value, asked for between bounds on either side of it or around it.
+void CompareHighestValue(int highest) {
+    for (int low = highest - 3; low <= highest + 2; ++low) {
+        const int high = low + 1 + (low & 1) * 3;
+        EXPECT_EQ(std::clamp(HighestValue(low, high), low, high), std::clamp(highest, low, high));
+    }
+}
+
+void CompareBeam(const std::vector<Candidate>& row, int width) {
+    Survey survey;
+    BeginSurvey(survey);
+    SurveyBest(survey);
+    ASSERT_EQ(survey.Best, row.empty() ? NoValue : row.front().Value);
+    if (row.empty()) return;
+    EXPECT_TRUE(FirstOfBest(survey) == row.front());
+    const Beam beam = KeepBeam(survey, width);
+    ASSERT_EQ(beam.Count, std::min(row.size(), static_cast<std::size_t>(width)));
+    EXPECT_TRUE(std::equal(&beam.Candidates[0], &beam.Candidates[0] + beam.Count, row.begin()));
+}
+
+void CompareWithSortedRow() {
+    SCOPED_TRACE(Described());
+    GenerateMoves(1);
+    SortCandidates(1);
+    std::vector<Candidate> row;
+    for (int n = 1; n <= CandidateCount[1]; ++n) {
+        const MoveCode code = MoveList[1][n];
+        row.push_back(
+            CandidateOf(OriginOf(code), DestinationOf(code), static_cast<int>(MoveScores[1][n])));
+    }
+    for (const int width : {32, 14, 7, 5, 4, 1}) CompareBeam(row, width);
+    CompareHighestValue(row.empty() ? NoValue : row.front().Value);
+}
+
+/// The survey must list what the generator lists and the beam keep what the sort puts first, among
+/// equals, too, which the sort shuffles.
+TEST(CandidatesTest, TheSurveyAgreesWithTheSortedRow) {
+    Dice dice(1);
+    for (int n = 0; n < 4000 && !testing::Test::HasFailure(); ++n) {
+        DrawPosition(dice);
+        if (BothRingsPlaced()) CompareWithSortedRow();
     }
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "engine/Random.h"
+#include "engine/Search.h"
 #include "play/Hint.h"
 #include "tests/RandomPlay.h"
 #include "tests/ShownGame.h"
@@ -11,19 +13,71 @@
 
 namespace brastel {
 
-/// A name, a position as Place takes it (empty for the standard game) and steps "commands => state"
-/// with semicolons between, as Do and State have them.
-using Scenario = std::array<const char*, 3>;
+/// Steps "commands => state" with semicolons between, as Do and State have them, and the position
+/// before them, as Place takes it (empty for the standard game).
+struct Scenario {
+    const char* Script;
+    const char* Position = "";
+};
+
+/// A game that notes what the view is told, in order.
+class NotedGame : public ShownGame {
+public:
+    using Base = ShownGame;
+    std::string Notes;
+
+    void PlacePieces() override { Base::PlacePieces(), Add("pieces"); }
+    void ShowMessage(std::string_view text) override {
+        Base::ShowMessage(text), Add(text == BlankText ? "blank" : Message);
+    }
+    void ShowTurn(Int16 side) override { Base::ShowTurn(side), Add(side == Red ? "Red" : "Blue"); }
+    void Beep() override { Add("beep"); }
+    void TellRefusal(std::string_view why) override { Add(std::string(why)); }
+    void ShowForward(bool on) override { Base::ShowForward(on), Add(on ? "+Forward" : "-Forward"); }
+    void ShowBackward(bool on) override { Base::ShowBackward(on), Add(on ? "+Back" : "-Back"); }
+    /// Between the calls: another seed than 1, or the depth of a search.
+    void ShowBusy(bool busy) override {
+        Base::ShowBusy(busy);
+        if (!busy && SearchedPositions > 0) Add("depth " + std::to_string(SearchedDepth()));
+        if (!busy && !IsThinking && RandomBelow(30000) != FirstNumber) Add("seed");
+        SearchedPositions = 0;
+        if (busy && !IsThinking) SeedRandom(1);
+        Add(busy ? "busy" : "ready");
+    }
+    void ShowBoardTexts() override { Add(Drawn.Board == Pos.Board ? "texts" : "old texts"); }
+    void ShowCandidateCount(Int16 count) override {
+        GenerateMoves(2);
+        Add(count == CandidateCount[2] ? "count" : "wrong count");
+    }
+    void HandleEvents() override {
+        Base::HandleEvents();
+        Add(IsThinking ? "events" : "unguarded events");
+    }
+
+private:
+    void Add(const std::string& what) { Notes += what + ' '; }
+
+    /// The least depth whose search of the position leaves what the last one has left, or 0.
+    static int SearchedDepth() {
+        const auto positions = SearchedPositions;
+        const auto scores = MoveScores[1];
+        for (Int16 depth = 1; depth <= MaxPly; ++depth) {
+            ChooseCandidate(depth);
+            if (SearchedPositions == positions && MoveScores[1] == scores) return depth;
+        }
+        return 0;
+    }
+
+    /// The first random number after seed 1.
+    const Int16 FirstNumber = (SeedRandom(1), RandomBelow(30000));
+};
 
 /// A game in a window: two people play the standard layout unless a test says otherwise.
 class GameTest : public testing::Test {
 protected:
     GameTest() {
         SetView(&Window);
-        LoadedCount = 0;
-        TakeLoadedGame();
-        Start(3);
-        SetLevel(TwoPlayerLevel);
+        Begin("");
     }
     ~GameTest() override { SetView(nullptr); }
 
@@ -31,58 +85,70 @@ protected:
         SelectStartLayout(layout);
         NewGameCommand();
     }
+    void Begin(const char* position) {
+        Start(3);
+        LoadedCount = 0;
+        TakeLoadedGame();
+        SetLevel(TwoPlayerLevel);
+        if (*position != 0) Place(position);
+        Window.PlacePieces();
+    }
+
     static void DoubleClick(Int16 side, int index) { DoubleClickPiece({side, ToInt16(index)}); }
-    static void Click(int square) { ClickBoard(SquareLeft(square) + 20, SquareTop(square) + 20); }
 
     /// 68-60 drags, +68 clicks, R3 double-clicks Red piece 3; entry200 leaps to that entry.
     static void Do(const std::string& command) {
-        static const std::map<std::string, std::function<void()>> words{
-            {"back", StepBack},      {"forward", StepForward},
-            {"hint", Hint},          {"load", [] { LoadPlayedGame(), BeginLoadedGame(); }},
-            {"new", NewGameCommand}, {"offer", [] { ShowForward(true); }}};
-        static const std::map<std::string, std::function<void(int)>> numbers{
-            {"+", Click},
+        static const std::map<std::string, void (*)(int)> words{
+            {"+", [](int n) { ClickBoard(SquareLeft(n) + 20, SquareTop(n) + 20); }},
+            {"B", [](int n) { DoubleClick(Blue, n); }},
+            {"R", [](int n) { DoubleClick(Red, n); }},
+            {"back", [](int) { StepBack(); }},
+            {"entry", [](int n) { Pos.MoveCount = ToInt16(n); }},
+            {"forward", [](int) { StepForward(); }},
+            {"hint", [](int) { Hint(); }},
             {"layout", Start},
             {"level", [](int n) { SetLevel(ToInt16(n)); }},
-            {"entry", [](int n) { Pos.MoveCount = ToInt16(n); }},
-            {"R", [](int n) { DoubleClick(Red, n); }},
-            {"B", [](int n) { DoubleClick(Blue, n); }}};
-        const auto digit = command.find_first_of("0123456789");
-        const auto dash = command.find('-');
-        if (digit == std::string::npos) return words.at(command)();
-        const int number = std::stoi(command.substr(digit));
-        if (digit > 0) return numbers.at(command.substr(0, digit))(number);
-        Drag(number, std::stoi(command.substr(dash + 1)));
+            {"load", [](int) { LoadPlayedGame(), BeginLoadedGame(); }},
+            {"new", [](int) { NewGameCommand(); }},
+            {"offer", [](int) { ShowForward(true); }},
+            {"open", [](int) { OpenGame(); }}};
+        const auto digit = std::min(command.find_first_of("0123456789"), command.size());
+        const int number = std::atoi(command.c_str() + digit);
+        if (digit > 0) return words.at(command.substr(0, digit))(number);
+        Drag(number, std::stoi(command.substr(command.find('-') + 1)));
+    }
+    static void DoAll(const std::string& commands) {
+        std::istringstream words(commands);
+        for (std::string command; words >> command;) Do(command);
     }
 
-    /// Entries played, who is to move, the buttons shown and the message.
+    /// Entries played, who is to move, the buttons shown, whether the game is over, and the
+    /// message.
     std::string State() const {
         return std::to_string(Pos.MoveCount - 1) + (Pos.SideToMove == Red ? " Red" : " Blue") +
                (BackwardVisible ? " Back" : "") + (ForwardVisible ? " Forward" : "") +
+               (GameOver != False ? " over" : "") +
                (Window.Message == BlankText ? "" : ' ' + Window.Message);
     }
 
     void Run(const std::vector<Scenario>& scenarios) {
-        for (const auto& [name, position, script] : scenarios) {
-            SCOPED_TRACE(name);
-            Start(3);
-            SetLevel(TwoPlayerLevel);
-            if (*position != 0) Place(position);
-            Window.PlacePieces();
-            std::istringstream steps(script);
-            for (std::string step; std::getline(steps >> std::ws, step, ';');) Follow(step);
+        for (const auto& [script, position] : scenarios) {
+            Begin(position);
+            Follow(script);
+        }
+    }
+    void Follow(const std::string& script) {
+        SCOPED_TRACE(script);
+        std::istringstream steps(script);
+        for (std::string step; std::getline(steps >> std::ws, step, ';');) {
+            const auto arrow = step.find(" => ");
+            DoAll(step.substr(0, arrow));
+            EXPECT_EQ(State(), step.substr(arrow + 4)) << "after " << step << "\n" << Listed();
+            EXPECT_EQ(Window.FirstWrong(), "");
         }
     }
 
-    void Follow(const std::string& step) {
-        const auto arrow = step.find(" => ");
-        std::istringstream commands(step.substr(0, arrow));
-        for (std::string command; commands >> command;) Do(command);
-        EXPECT_EQ(State(), step.substr(arrow + 4)) << "after " << step << "\n" << Listed();
-        EXPECT_EQ(Window.FirstWrong(), "");
-    }
-
-    ShownGame Window;
+    NotedGame Window;
 };
 
 }  // namespace brastel

@@ -5,7 +5,30 @@
 
 namespace brastel {
 
+std::string ListOf(const std::string& drawing, int board) {
+    std::istringstream lines(drawing);
+    std::ostringstream list;
+    for (std::string line, squares; std::getline(lines, line);) {
+        std::istringstream words(line);
+        int row = 0;
+        if (!(words >> row)) continue;
+        for (int n = 0; n <= board; ++n) words >> squares;
+        for (std::size_t column = 0; column < ColumnCount; ++column) {
+            const char piece = squares.at(column);
+            if (piece == '.') continue;
+            list << (list.tellp() > 0 ? " " : "") << piece
+                 << SquareAt(row, static_cast<int>(column));
+        }
+    }
+    return list.str();
+}
+
 void Place(std::string_view pieces) {
+    if (pieces.find('\n') != pieces.npos) {
+        Place(ListOf(std::string(pieces)));
+        Pos.SideToMove = pieces.starts_with("Blue") ? Blue : Red;
+        return;
+    }
     Pos = {};
     Pos.RingSquare = {8, 105};
     Pos.MoveCount = 3;
@@ -32,35 +55,14 @@ std::string Listed() {
     return list.str();
 }
 
-namespace {
-
-Position Mirrored(const Position& position, int (*mirror)(int)) {
-    Position result = position;
-    const auto moved = [mirror](int s) { return ToInt16(IsOnBoard(s) ? mirror(s) : s); };
-    for (int s = FirstSquare; s <= LastSquare; ++s) result.Board[mirror(s)] = position.Board[s];
-    for (int i = 1; i <= MaxPieces; ++i) {
-        result.RedSquare[i] = moved(position.RedSquare[i]);
-        result.BlueSquare[i] = moved(position.BlueSquare[i]);
+std::string Turned(const std::string& pieces) {
+    std::istringstream list(pieces);
+    std::ostringstream turned;
+    char letter = 0;
+    for (int square = 0; list >> letter >> square;) {
+        turned << "bBrR"[std::string_view("rRbB").find(letter)] << Turned(square) << ' ';
     }
-    for (Int16& ring : result.RingSquare) ring = moved(ring);
-    return result;
+    return turned.str();
 }
-
-}  // namespace
-
-int UpsideDown(int square) { return SquareAt(RowCount - 1 - Row(square), Column(square)); }
-int LeftRight(int square) { return SquareAt(Row(square), ColumnCount - 1 - Column(square)); }
-
-Position UpsideDown(const Position& position) {
-    Position result = Mirrored(position, UpsideDown);
-    for (int s = FirstSquare; s <= LastSquare; ++s) result.Board[s] = ToInt16(-result.Board[s]);
-    std::swap(result.RedSquare, result.BlueSquare);
-    std::swap(result.RedCount, result.BlueCount);
-    result.OutsideBalance = ToInt16(-position.OutsideBalance);
-    result.SideToMove = ToInt16(-position.SideToMove);
-    return result;
-}
-
-Position LeftRight(const Position& position) { return Mirrored(position, LeftRight); }
 
 }  // namespace brastel

@@ -9,16 +9,20 @@ namespace brastel {
 
 /// Sets the position from its pieces in index order, as in "R68 b60 b44": r and b are pieces,
 /// capitals carry a ring (ring 0 the first of them). The side of the first piece is to move, and
-/// both rings count as placed; a ring that nobody carries lies in a corner of the board.
+/// both rings count as placed; a ring that nobody carries lies in a corner of the board. Or from a
+/// drawing, which is text of more than one line: then Red is to move, or Blue if it begins so.
 void Place(std::string_view pieces);
 
-/// The pieces of the position in board order, written like the list above.
+/// Such a list, in board order, from a drawing: each line has the number of a row, 0 to 13, and its
+/// eight squares, a point for each empty one. Boards may stand side by side: `board` is their
+/// index.
+std::string ListOf(const std::string& drawing, int board = 0);
+
+/// The pieces of the position in board order, written like the lists above.
 std::string Listed();
 
-/// A square, and the position, upside down with the colours exchanged, or in a mirror.
-int UpsideDown(int square);
-Position UpsideDown(const Position& position);
-int LeftRight(int square);
-Position LeftRight(const Position& position);
+/// The list after half a turn of the board, with the colours exchanged; and a square after it.
+std::string Turned(const std::string& pieces);
+constexpr int Turned(int square) { return FirstSquare + LastSquare - square; }
 
 }  // namespace brastel

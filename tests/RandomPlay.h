@@ -13,15 +13,19 @@ namespace brastel {
 
 using Dice = std::mt19937;
 
-/// 0 to n - 1.
-inline int Below(Dice& dice, int n) { return static_cast<int>(dice() % static_cast<unsigned>(n)); }
+/// 0 to n - 1; `dice` is anything that draws numbers.
+template <typename Source>
+int Below(Source& dice, int n) {
+    return static_cast<int>(dice() % static_cast<unsigned>(n));
+}
 
 /// Origin and destination.
 using Action = std::pair<int, int>;
 
 /// An action that people may take, or (0, 0): the best of a few candidates in row 1 (aimless games
 /// see few hits), or sometimes a ring carrier's long step, which no candidate is.
-inline Action DrawAction(Dice& dice) {
+template <typename Source>
+Action DrawAction(Source& dice) {
     for (int attempt = 0; attempt < 20 && CandidateCount[1] > 0; ++attempt) {
         int best = 1 + Below(dice, CandidateCount[1]);
         for (int more = Below(dice, 4); more > 0; --more) {

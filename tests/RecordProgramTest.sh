@@ -1,47 +1,53 @@
 #!/usr/bin/env bash
 # brastel-record as people call it: statuses, where its words go, and files it must not touch.
-# Arguments: the program and the folder with the test files.
-# Words are compared with patterns.
-# shellcheck disable=SC2053
+# Argument: the program.
 set -euo pipefail
 
 Program=$(realpath "$1")
-Data=$(realpath "$2")
-. "$(dirname "$0")/ScratchFolder.sh"
+Data=$(realpath "$(dirname "$0")/data")
+. "$(dirname "$0")/ShellTest.sh"
 cp "$Data/good/03-example.txt" game
 cp "$Data/good/06-passes.txt" broken
 cp "$Data/damaged/05-square-113.txt" damaged
+echo 2 2 4 20 68 109 16 44 3 20 0 44 0 20 12 >won
+echo 2 2 4 20 68 109 16 44 6 20 0 44 0 20 28 44 52 0 0 28 36 >unlawful
 echo kept >old
-
-Faults=0
-# expect STATUS OUT ERR ARGUMENT...: patterns of bash for what standard output and error hold.
-expect() {
-    local status=$1 out=$2 err=$3 found=0
-    shift 3
-    "$Program" "$@" >out 2>err || found=$?
-    if [ $found -ne "$status" ] || [[ $(<out) != $out ]] || [[ $(<err) != $err ]]; then
-        echo "brastel-record $*: status $found, not $status, or other words:"
-        cat out err
-        Faults=$((Faults + 1))
-    fi
-}
 
 expect 0 'game: 3 entries, Blue to move' '' game
 expect 1 'game: 3*broken:23: entry 3 *damaged:10: error 5: *' '' game broken damaged
+printf '1 1\r\n\n\r 4 x' >lines
+expect 2 'lines:4: error 4: this is no number
+*:23: error 3: the file ends before its last value
+*/00-free-setup-before-the-pieces.txt: 0 entries, Red to move' '*/data: not an ordinary file' \
+    lines "$Data"/damaged/03-half*missing.txt "$Data"/good/00-free*.txt "$Data"
 expect 2 'game: 3*' 'brastel-record: missing: No such file or directory' missing game
-expect 0 'game: *   3. Red piece 1 from row 9, column 2 to row 8, column 2' '' --moves game
 expect 1 'damaged:10: error 5: *' '' --moves damaged
-expect 0 'After entry 3: Blue to move*' '' --at end game
-expect 0 'At the start: Red places its ring*' '' --at 0 game
-expect 0 '<svg *</svg>' '' --at 3 --svg game
-expect 1 'After entry 6*' 'broken:23: entry 3 *' --at 6 broken
+expect 0 'won: 3 entries, Red wins
+   1. Red piece 1 takes the ring on row 3, column 4; Blue piece 1 comes back on row 2, column 7
+   2. Blue piece 2 takes the ring on row 6, column 4
+   3. Red piece 1 from row 3, column 4 to row 2, column 4
+      Red wins' '' --moves won
+# What fits is played even so; what does not is the end.
+expect 1 'unlawful:1: entry 5 (0 0) breaks the rules: a side that can move may not pass
+*   5. Red passes
+      \*\*\* breaks the rules: a side that can move may not pass
+      the game cannot be played on from here' '' --moves unlawful
+expect 0 'At the start: Red places its ring*     1     2    3    4    5    6    7     8
+  1                 ( )  goal
+        +----------          ----------+
+  2     |  .    .    .    .    .    .  |  B1
+  3     |  .    .    R1   .    .    .  |*
+Outside: Blue piece 1 on row 2, column 8' '' --at 0 won
+expect 0 'After entry 1: Blue places its ring*  3     |  .    .   (R1)  .  *' '' --at 1 won
+expect 0 'After entry 3: Red wins*' '' --at end won
+expect 0 '<svg *<title>After entry 1: *row 14, column 5: Blue?s goal, a ring</title>*</svg>' '' --at 1 --svg won
+expect 1 'After entry 6: Red to move*' 'broken:23: entry 3 *' --at 6 broken
 expect 1 '' 'damaged:10: *' --at 1 damaged
 expect 2 '' 'brastel-record: game: no position after entry 4: the last entry is 3' --at 4 game
-expect 2 '' '*see --help' --at -1 game
-expect 2 '' '*see --help' --at 201 game
-expect 2 '' '*see --help' --svg game
-expect 2 '' '*see --help' --moves --at 1 game
-expect 2 '' '*see --help' --force game
+for bad in '--at -1' '--at 201' --svg '--moves --at 1' --force; do
+    # shellcheck disable=SC2086
+    expect 2 '' '*see --help' $bad game
+done
 expect 2 '' '*see --help'
 expect 2 '' '*name one file' --at 1 game broken
 expect 2 '' '*old: exists; --force overwrites it' --at 1 -o old game
@@ -51,23 +57,19 @@ expect 2 '' '*exists*' -o . game
 expect 2 '' '*: Is a directory' --force -o . game
 expect 2 '' '*: File name too long' --force -o "$(printf '%300s' x)" game
 expect 2 '' '*no position after entry 9*' --at 9 --force -o old game
-[ "$(cat old)" = kept ] || { echo "An old file was emptied for nothing."; Faults=1; }
+[ "$(<old)" = kept ] || fail "an old file was emptied for nothing"
 expect 0 '' '' -o new game
 expect 0 '' '' --force -o old game
 expect 0 '*Examples:*Status:*' '' --help
 
-cmp -s game "$Data/good/03-example.txt" || { echo "A record was changed."; Faults=1; }
-[ "$(cat new)" = "$(cat old)" ] && [ "$(cat new)" = 'game: 3 entries, Blue to move' ] ||
-    { echo "The output file holds something else."; Faults=1; }
+cmp game "$Data/good/03-example.txt" || fail "a record was changed"
+[ "$(cat new; cmp new old)" = 'game: 3 entries, Blue to move' ] || fail "other words in a file"
 # A reader that leaves early is no fault to speak of.
 mapfile -t many < <(yes game | head -n 2000)
 { "$Program" --moves "${many[@]}" 2>err || true; } | head -n 1 >out
-[ "$(cat out)" = 'game: 3 entries, Blue to move' ] && [ ! -s err ] ||
-    { echo "A closed pipe:"; cat out err; Faults=1; }
-status=0
-"$Program" game >/dev/full 2>err || status=$?
-[ $status -eq 2 ] && grep -q 'standard output' err || { echo "A full disk was not told."; Faults=1; }
-"$Program" --help >/dev/full 2>err && { echo "Help on a full disk."; Faults=1; }
+[ "$(<out)$(<err)" = 'game: 3 entries, Blue to move' ] || fail "a closed pipe: $(cat out err)"
+expect_full game
+expect_full --help
 # A record ends within a megabyte; a gigabyte took many seconds, and no interrupt ended them.
 truncate -s 1G long
 expect 1 'long:1: error 10: *' '' long
@@ -79,10 +81,7 @@ expect 2 '' "brastel-record: *--$shown; see --help" "--$name" game
 cp game "$name"
 expect 0 "$shown: 3 entries*" '' "$name"
 expect 2 '' "brastel-record: $shown: exists*" -o "$name" game
-status=0
-told=$( (ulimit -f 0; exec "$Program" --force -o old game 2>&1) ) || status=$?
-[ "$status $told" = '2 brastel-record: old: File too large' ] && cmp -s old new ||
-    { echo "A file that could not grow: $status $told"; Faults=1; }
+expect_too_large 'brastel-record: old' --force -o old game
+cmp old new || fail "an old file was lost to one that could not grow"
 cp game '[game,broken]'
 expect 0 './\[game,broken\]: 3 entries, Blue to move' '' '[game,broken]'
-exit $((Faults > 0))

@@ -3,13 +3,8 @@
 set -euo pipefail
 
 InSandbox=$(realpath "$1")
-Helper=$(realpath "$(dirname "$0")/ScratchFolder.sh")
-. "$(dirname "$0")/ScratchFolder.sh"
-
-fail() {
-    echo "FAILED: $*" >&2
-    exit 1
-}
+Helper=$(realpath "$(dirname "$0")/ShellTest.sh")
+. "$(dirname "$0")/ShellTest.sh"
 
 TMPDIR=$Folder/none bash -euc ". '$Helper'; true" 2>/dev/null &&
     fail "a test goes on without a scratch folder"
@@ -24,7 +19,8 @@ export BRASTEL_WRITABLE="to keep" BRASTEL_SANDBOX="another one"
 only_at() {
     local found
     found=$("$InSandbox" awk -v option="$1" '$6 !~ option {print $5}' /proc/self/mountinfo)
-    [ "$(sort <<<"$found")" = "$(printf '%s\n' "${@:2}")" ] || fail "no $1 at: $found"
+    [ "$(sort -u <<<"$found")" = "$(printf '%s\n' "${@:2}")" ] || fail "no $1 at: $found"
 }
-only_at '^ro' /tmp "${Folder// /\\040}/to\\040keep" /var/tmp
-only_at nodev /dev/full /dev/null /dev/random /dev/urandom /dev/zero
+devices=(/dev/{full,null,pts,random,shm,tty,urandom,zero})
+only_at '^ro' "${devices[@]}" /tmp "${Folder// /\\040}/to\\040keep" /var/tmp
+only_at nodev "${devices[@]}"

@@ -17,12 +17,8 @@ class ShownGame : public GameView {
 public:
     /// The position as last drawn.
     Position Drawn;
-    int Drawings = 0;
     std::string Message;
-    std::string Refusal;
     Int16 Turn = Empty;
-    int Beeps = 0;
-    int Searches = 0;
     bool Forward = false;
     bool Backward = false;
     int BusyDepth = 0;
@@ -31,17 +27,9 @@ public:
     std::function<void()> OnEvents = [] {};
     double Clock = 0;
 
-    void PlacePieces() override {
-        Drawn = Pos;
-        ++Drawings;
-    }
-    void ShowMessage(std::string_view text) override {
-        Message = text;
-        Searches += text == ThinkingText;
-    }
+    void PlacePieces() override { Drawn = Pos; }
+    void ShowMessage(std::string_view text) override { Message = text; }
     void ShowTurn(Int16 side) override { Turn = side; }
-    void Beep() override { ++Beeps; }
-    void TellRefusal(std::string_view why) override { Refusal = why; }
     void ShowForward(bool visible) override { Forward = visible; }
     void ShowBackward(bool visible) override { Backward = visible; }
     void ShowBusy(bool busy) override { BusyDepth += busy ? 1 : -1; }

@@ -19,16 +19,6 @@ QRgb PixelAt(const QImage& picture, int x, int y) {
     return picture.pixel(static_cast<int>((x + 0.5) * ratio), static_cast<int>((y + 0.5) * ratio));
 }
 
-bool ShowsPiece(const QImage& picture, int square) {
-    const int middle = CellSize / 2;
-    return PixelAt(picture, SquareLeft(square) + middle, SquareTop(square) + middle) ==
-           BeadColor(Pos.Board[square]);
-}
-
-bool ShowsRing(const QImage& picture, int square) {
-    return PixelAt(picture, SquareLeft(square) + 3, SquareTop(square) + CellSize / 2) == Black;
-}
-
 bool ShowsTurn(const QImage& picture, int left) {
     return PixelAt(picture, left + 2, 230 + 25) == Black;
 }
@@ -38,8 +28,12 @@ bool ShowsTurn(const QImage& picture, int left) {
 std::string FirstWrongShown(const QImage& picture) {
     for (int square = FirstSquare; square <= LastSquare; ++square) {
         const std::string place = " on square " + std::to_string(square);
-        if (!ShowsPiece(picture, square)) return "piece" + place;
-        if (ShowsRing(picture, square) != IsRingSquare(square)) return "ring" + place;
+        const int left = SquareLeft(square);
+        const int middle = SquareTop(square) + CellSize / 2;
+        const QRgb bead = PixelAt(picture, left + CellSize / 2, middle);
+        const bool hasRing = PixelAt(picture, left + 3, middle) == Black;
+        if (bead != BeadColor(Pos.Board[square])) return "piece" + place;
+        if (hasRing != IsRingSquare(square)) return "ring" + place;
     }
     if (ShowsTurn(picture, 660) != (Pos.SideToMove == Red)) return "Red's turn";
     if (ShowsTurn(picture, 730) != (Pos.SideToMove == Blue)) return "Blue's turn";

@@ -9,6 +9,7 @@
 #include <gtest/gtest.h>
 
 #include <functional>
+#include <string>
 #include <vector>
 
 namespace brastel {
@@ -22,49 +23,38 @@ protected:
 
     /// Opens the window with a start layout, without the dialog.
     void Open(int layout);
-    /// Opens it for two people and places both rings by double-clicks.
-    void OpenForTwo(int layout, int redRing, int blueRing);
 
-    // ---- Mouse; points are in view coordinates ----
     static QPoint Centre(int square);
     QPoint InWindow(QPoint point) { return Form->mapTo(&Window, point); }
-    void Press(QPoint point, Qt::MouseButton button = Qt::LeftButton);
-    void Move(QPoint point);
-    void Release(QPoint point, Qt::MouseButton button = Qt::LeftButton);
-    void Drag(QPoint from, QPoint to, Qt::MouseButton button = Qt::LeftButton);
-    void Drag(int from, int to) { Drag(Centre(from), Centre(to)); }
-    void DoubleClick(int square);
-    void ClickAt(QPoint point);
-    void ClickButton(const char* name);
-    void ChooseFromMenu(const char* menu, const char* item);
+    /// One of the gestures below at a point of the view.
+    void DoAt(char gesture, QPoint point, Qt::MouseButton button = Qt::LeftButton);
+
+    /// Does one thing after the other. Of a place, which is a square or "x,y": +68 clicks, !68
+    /// double-clicks, v68 presses, "68 presses at once after a click, ^68 releases, >68 moves the
+    /// mouse, ~68 notes the cursor, too, ?68 notes the tool tip, 68-60 drags; with m or r behind,
+    /// by the middle or right button. The name of a button or menu item clicks it; with () behind,
+    /// it is called without mouse and keys. "layout3" opens the window with that layout, "load"
+    /// makes the game just played the loaded one. "elsewhere" opens another window, "lost" releases
+    /// the mouse there, "unfocus" and "hide" are what the system may do at any time. All else are
+    /// keys, as Alt+O; Left& is one that is held down.
+    void Do(const std::string& gestures);
+    /// What the window shows: entries played, who is to move, the visible controls, the level but
+    /// Easy, what the keyboard points at and holds, what is wrong on the board, the message, and
+    /// what was noted since the last time: dialogs that opened, and a * for each beep.
+    std::string State();
 
     // ---- Dialogs ----
     using Answer = std::function<void(QWidget& dialog)>;
     /// Chooses a menu item and gives each dialog or box that then opens the next of the answers.
     /// One without an answer, and an answer without a dialog, is a failure.
-    void ChooseAndAnswer(const char* menu, const char* item, std::vector<Answer> answers);
-    /// Chooses Change Piece Number and leaves the dialog by the named button.
-    void ChoosePieceNumber(const char* button);
-    /// Clicks a control of a dialog with the mouse.
-    static void ClickIn(QWidget& dialog, const char* name);
-    /// Enter on a button, which in the piece-number dialog once pressed OK. Closes a dialog without
-    /// such a button.
-    static void PressByEnter(QWidget& dialog, const char* name);
+    void ChooseAndAnswer(const std::string& item, std::vector<Answer> answers);
 
     // ---- What the window shows ----
     template <typename T>
     T* Control(const char* name) {
         return Window.findChild<T*>(name);
     }
-    bool IsShown(const char* name) { return Control<QWidget>(name)->isVisible(); }
-    QString Message() { return Control<QLabel>("lbl_Message")->text().trimmed(); }
     QImage Picture() { return Form->grab().toImage(); }
-    /// What has been painted so far, and not what would be painted now.
-    QImage OnScreen();
-    /// The item of the Level menu has a check mark, alone.
-    bool IsItemChecked(const char* name);
-    /// Every square shows the piece and ring that the position has there, and nothing else.
-    void ExpectViewShowsPosition();
 
     /// Runs something once the computer thinks, in the pause before its search. It is a failure if
     /// the computer does not think until the test ends.
@@ -74,11 +64,14 @@ protected:
     QWidget* Form;
 
 private:
+    static QPoint PlaceOf(const std::string& text);
+    void DoNamed(const std::string& name);
     void PollDialogs();
 
     std::vector<Answer> Answers;
-    bool IsPolling = false;
+    QStringList Noted;
     QTimer ThinkingTimer;
+    QWindow Elsewhere;
 };
 
 }  // namespace brastel
