@@ -8,7 +8,7 @@ BuildPackages=(g++ cmake ninja-build qt6-base-dev)
 FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
 TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-utils at-spi2-core
-    dbus-daemon libglib2.0-bin python3-pyatspi)
+    dbus-daemon libglib2.0-bin python3-pyatspi bubblewrap)
 CheckPackages=(clang-format clang-tidy shellcheck)
 # For the programs beside the game.
 ToolPackages=(libcli11-dev)
