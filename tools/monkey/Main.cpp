@@ -73,8 +73,9 @@ bool DoCalmingThing() {
     return isDragging;
 }
 
-/// Commands come after the event that gives them.
+/// Commands come after the event that gives them, and the keyboard changes hands even later.
 void AwaitCommands() {
+    QCoreApplication::processEvents();
     const auto isDone = [] {
         const auto timers = GameWindow->findChildren<QTimer*>(Qt::FindDirectChildrenOnly);
         return std::ranges::none_of(timers, &QTimer::isActive);
