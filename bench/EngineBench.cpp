@@ -44,9 +44,9 @@ void QuietMoveAndTakeBack(benchmark::State& state) {
     SetUpBenchPosition(MiddleGame);
     GenerateMoves(1);
     const PlySave saved;
-    const MoveCode code = MoveList[1][1];
+    const Action action = DecodeMove(MoveList[1][1]);
     while (state.KeepRunning()) {
-        ApplyMoveQuiet(OriginOf(code), DestinationOf(code));
+        ApplyMoveQuiet(action);
         saved.Restore();
         benchmark::DoNotOptimize(Pos);
     }

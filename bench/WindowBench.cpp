@@ -73,14 +73,14 @@ std::mt19937 Dice;
 void PlayByHand() {
     GenerateMoves(1);
     SortCandidates(1);
-    std::vector<MoveCode> drops;
+    std::vector<Action> drops;
     for (int n = 1; n <= CandidateCount[1] && drops.size() < 3; ++n) {
-        if (InField(DestinationOf(MoveList[1][n]))) drops.push_back(MoveList[1][n]);
+        const Action move = DecodeMove(MoveList[1][n]);
+        if (InField(move.Destination)) drops.push_back(move);
     }
     if (drops.empty()) return ShowStatus(BlankText);
-    const MoveCode drop = drops[Dice() % drops.size()];
-    const Piece piece = PieceOn(OriginOf(drop));
-    const int to = DestinationOf(drop);
+    const auto [from, to] = drops[Dice() % drops.size()];
+    const Piece piece = PieceOn(from);
     const Piece target = PieceOn(to);
     if (target) return DropOnPiece(piece, target);
     DropOnBoard(piece, SquareLeft(to), SquareTop(to));

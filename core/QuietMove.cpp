@@ -12,22 +12,25 @@ namespace brastel {
 namespace {
 
 /// A piece waiting outside cannot be hit.
-bool CanPush(int origin, int destination) {
+bool CanPush(const Action& hit) {
+    const auto [origin, destination] = hit;
     const int direction = PushDirection(origin, destination);
     return direction != 0 && InField(destination) && IsFreeBeyond(destination, direction, 1);
 }
 
 }  // namespace
 
-bool ActionFits(int origin, int destination) {
+bool ActionFits(const Action& action) {
+    const auto [origin, destination] = action;
     if (!BothRingsPlaced()) return IsOnBoard(origin);
     const Piece actor = PieceOn(origin);
     if (!actor) return true;
     if (actor.Side != Pos.SideToMove || !IsOnBoard(destination)) return false;
-    return Pos.Board[destination] != -Pos.SideToMove || CanPush(origin, destination);
+    return Pos.Board[destination] != -Pos.SideToMove || CanPush(action);
 }
 
-bool IsAccepted(int origin, int destination) {
+bool IsAccepted(const Action& action) {
+    const auto [origin, destination] = action;
     const Piece other = PieceOn(destination);
     if (!other) return CheckPlainMove(origin, destination);
     const Piece actor = PieceOn(origin);
@@ -35,7 +38,8 @@ bool IsAccepted(int origin, int destination) {
     return CheckHit(actor, other) == HitVerdict::Accepted;
 }
 
-void ApplyAction(int origin, int destination) {
+void ApplyAction(const Action& action) {
+    const auto [origin, destination] = action;
     if (!BothRingsPlaced()) return LayRing(origin);
     const Piece actor = PieceOn(origin);
     if (!actor) return;
@@ -49,12 +53,13 @@ void ApplyAction(int origin, int destination) {
     }
 }
 
-void ApplyMoveQuiet(int origin, int destination) {
-    assert(ActionFits(origin, destination));
+void ApplyMoveQuiet(const Action& action) {
+    assert(ActionFits(action));
+    const auto [origin, destination] = action;
     const bool isByPiece = BothRingsPlaced() && IsOnBoard(origin) && Pos.Board[origin] != Empty;
     const bool changesCells = isByPiece && Pos.Board[destination] != Pos.SideToMove;
     const bool isHit = changesCells && Pos.Board[destination] != Empty;
-    ApplyAction(origin, destination);
+    ApplyAction(action);
     // A carrier that enters the goal lands on a return cell, which need not be near its origin.
     const int entered = InField(destination) ? NoSquare : ReturnSquareOf(destination);
     if (changesCells) ReturnOutsideNear(origin, isHit ? destination : entered);

@@ -1,34 +1,30 @@
 #pragma once
 
+#include "core/Action.h"
 #include "core/Position.h"
 
 /// Any action: whether it is allowed, and what it makes of the position alone, without view, record
 /// and win test.
-///
-/// An action is a pair of squares. What it means follows from the position: at MoveCount 1 and 2
-/// the ring of Red or Blue goes to the origin and the destination is not read; afterwards an empty
-/// destination makes a plain move, a friendly one a ring pass, an enemy one a hit. Where the origin
-/// holds no piece, as in the null move (0, 0), only the turn passes.
 namespace brastel {
 
 /// False if the action would break the position: it lays a ring off the board, moves a piece of the
 /// other side, leaves the board, or hits a piece that has no room to be pushed. No other rule is
 /// tested. Any numbers may be passed.
-bool ActionFits(int origin, int destination);
+bool ActionFits(const Action& action);
 
 /// True if people may take the action once both rings are placed: a plain move, a ring pass or a
 /// hit that its own check accepts. Any numbers may be asked for.
-bool IsAccepted(int origin, int destination);
+bool IsAccepted(const Action& action);
 
 /// The changes of an action without the returns from outside and without the turn. Precondition:
 /// ActionFits.
-void ApplyAction(int origin, int destination);
+void ApplyAction(const Action& action);
 
 /// Applies the action, brings back pieces that it lets in, and passes the turn. The search calls
 /// this for every candidate, so only cells near changed squares are looked at: a piece placed
 /// outside by hand that could come back from the start on is not let in elsewhere. MoveCount stays.
 /// Precondition: ActionFits.
-void ApplyMoveQuiet(int origin, int destination);
+void ApplyMoveQuiet(const Action& action);
 
 /// All that quiet moves change once both rings are placed: saved before a ply's first candidate,
 /// restored after each. Copied part by part, which compilers turn into a few wide moves; a copy of

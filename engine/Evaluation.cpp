@@ -183,7 +183,7 @@ Int16 ScoreMove(int origin, int destination) {
 
 Int16 GoalFrontCheck(int origin, int destination) {
     const PlySave saved;
-    ApplyMoveQuiet(origin, destination);
+    ApplyMoveQuiet({origin, destination});
     const Int16 verdict = JudgeGoalFronts();
     saved.Restore();
     return verdict;

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "core/Numbers.h"
+#include "core/Action.h"
 
 namespace brastel {
 
@@ -10,10 +10,9 @@ using MoveCode = Int16;
 
 constexpr int MoveCodeBase = 200;
 
-constexpr MoveCode EncodeMove(int origin, int destination) {
-    return ToInt16(destination * MoveCodeBase + origin);
+constexpr MoveCode EncodeMove(const Action& action) {
+    return ToInt16(action.Destination * MoveCodeBase + action.Origin);
 }
-constexpr Int16 OriginOf(MoveCode code) { return ToInt16(code % MoveCodeBase); }
-constexpr Int16 DestinationOf(MoveCode code) { return ToInt16(code / MoveCodeBase); }
+constexpr Action DecodeMove(MoveCode code) { return {code % MoveCodeBase, code / MoveCodeBase}; }
 
 }  // namespace brastel

@@ -85,10 +85,10 @@ void SearchRoot(Int16 depth) {
     if (!BothRingsPlaced()) return ValuePlacements(depth);
     std::array<RootCandidate, BeamWidth> candidates;
     for (int n = 1; n <= count; ++n) {
-        const MoveCode code = MoveList[SearchPly][n];
+        const auto [origin, destination] = DecodeMove(MoveList[SearchPly][n]);
         const int value = static_cast<int>(MoveScores[SearchPly][n]);
-        candidates[static_cast<std::size_t>(n - 1)] = {
-            CandidateOf(OriginOf(code), DestinationOf(code), value), n, 0};
+        candidates[static_cast<std::size_t>(n - 1)] = {CandidateOf(origin, destination, value), n,
+                                                       0};
     }
     const RootRow row(candidates.data(), static_cast<std::size_t>(count));
     ForgetPositions();
@@ -101,7 +101,7 @@ void SearchRoot(Int16 depth) {
     ValueRow(row, best);
 }
 
-bool CanBePlayed(MoveCode code) { return ActionFits(OriginOf(code), DestinationOf(code)); }
+bool CanBePlayed(MoveCode code) { return ActionFits(DecodeMove(code)); }
 
 /// The best of row 1, or the best that is allowed; 0 where there is none. Each candidate that
 /// reaches the best so far tosses a coin, the first one to do so included, so the last of k equals
@@ -131,9 +131,9 @@ Int16 ChooseCandidate(Int16 depth) {
 
 Int16 ChoosePlayable() { return SelectFromRoot(CanBePlayed); }
 
-MoveCode PlayableCode(Int16 chosen) {
+Action PlayableAction(Int16 chosen) {
     const MoveCode code = MoveList[SearchPly][chosen];
-    return CanBePlayed(code) ? code : MoveList[SearchPly][ChoosePlayable()];
+    return DecodeMove(CanBePlayed(code) ? code : MoveList[SearchPly][ChoosePlayable()]);
 }
 
 }  // namespace brastel

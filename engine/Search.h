@@ -27,8 +27,8 @@ Int16 ChooseCandidate(Int16 depth);
 /// the goal cannot be played: it counts as a win, and yet would push the opponent off the board.
 Int16 ChoosePlayable();
 
-/// The code to play when this candidate of row 1, or 0 for none, was chosen: its own, or that of
+/// What to play when this candidate of row 1, or 0 for none, was chosen: its own, or that of
 /// ChoosePlayable if it cannot be played.
-MoveCode PlayableCode(Int16 chosen);
+Action PlayableAction(Int16 chosen);
 
 }  // namespace brastel

@@ -174,7 +174,7 @@ void BeginTree(int depth) { Depth = depth; }
 
 int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved) {
     const int gain = Discounted(candidate.Value);
-    ApplyMoveQuiet(candidate.Origin, candidate.Destination);
+    ApplyMoveQuiet({candidate.Origin, candidate.Destination});
     const int value = gain - SearchReplies(ply + 1, gain - high, gain - low);
     saved.Restore();
     return value;
@@ -189,7 +189,7 @@ int ValueOfLater(int ply, const Candidate& candidate, int low, int high, const P
 double RoundedValueOf(int ply, const Candidate& candidate, int value, double least,
                       const PlySave& saved) {
     const double gain = candidate.Value / Discount;
-    ApplyMoveQuiet(candidate.Origin, candidate.Destination);
+    ApplyMoveQuiet({candidate.Origin, candidate.Destination});
     const double answer = RoundedValue(ply + 1, Discounted(candidate.Value) - value, gain, least);
     saved.Restore();
     return gain - answer;
@@ -198,7 +198,7 @@ double RoundedValueOf(int ply, const Candidate& candidate, int value, double lea
 double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
     assert(Depth >= 3);
     const double gain = candidate.Value / Discount;
-    ApplyMoveQuiet(candidate.Origin, candidate.Destination);
+    ApplyMoveQuiet({candidate.Origin, candidate.Destination});
     const PlySave answered;
     Survey survey;
     BeginSurvey(survey);

@@ -11,14 +11,14 @@
 
 namespace brastel {
 
-void ApplyMoveShown(int origin, int destination) {
-    assert(ActionFits(origin, destination));
-    ApplyAction(origin, destination);
+void ApplyMoveShown(const Action& action) {
+    assert(ActionFits(action));
+    ApplyAction(action);
     ReturnOutsidePieces();
     View->PlacePieces();
     Pos.SideToMove = ToInt16(-Pos.SideToMove);
     ShowStatus(BlankText);
-    WriteEntry(origin, destination);
+    WriteEntry(action);
     View->ShowBoardTexts();
     RefreshCandidates();
     assert(PositionIsConsistent());

@@ -46,7 +46,7 @@ bool HasLoadedEntry(int k) { return k >= 1 && k <= MaxEntries && k <= LoadedCoun
 bool IsOnLoadedLine(int kept) {
     if (!HasLoadedEntry(kept + 1) || CurrentStart() != LoadedStart) return false;
     for (int k = 1; k <= kept; ++k) {
-        if (PlayedFrom[k] != LoadedFrom[k] || PlayedTo[k] != LoadedTo[k]) return false;
+        if (PlayedEntry(k) != LoadedEntry(k)) return false;
     }
     return true;
 }
@@ -55,16 +55,15 @@ bool IsOnLoadedLine(int kept) {
 
 bool IsRecordFull() { return Pos.MoveCount > MaxEntries; }
 
-void WriteEntry(int from, int to) {
-    PlayedFrom[Pos.MoveCount] = ToInt16(from);
-    PlayedTo[Pos.MoveCount] = ToInt16(to);
+void WriteEntry(const Action& entry) {
+    PlayedFrom[Pos.MoveCount] = ToInt16(entry.Origin);
+    PlayedTo[Pos.MoveCount] = ToInt16(entry.Destination);
 }
 
 void CountEntry() { ++Pos.MoveCount; }
 
-void ReplayEntry(int from, int to) {
-    const bool fits = ActionFits(from, to);
-    ApplyMoveQuiet(fits ? from : NoSquare, fits ? to : NoSquare);
+void ReplayEntry(const Action& entry) {
+    ApplyMoveQuiet(ActionFits(entry) ? entry : NullMove);
     CountEntry();
 }
 
@@ -106,7 +105,7 @@ void StepBack() {
     if (IsThinking) return;
     const int kept = std::max(Pos.MoveCount - 2, 0);
     ResetGame();
-    for (int k = 1; k <= kept; ++k) ReplayEntry(PlayedFrom[k], PlayedTo[k]);
+    for (int k = 1; k <= kept; ++k) ReplayEntry(PlayedEntry(k));
     ShowStatus(BlankText);
     View->PlacePieces();
     if (kept == 0) ShowBackward(false);
@@ -118,8 +117,8 @@ void StepBack() {
 void StepForward() {
     if (IsThinking) return;
     const int k = Pos.MoveCount;
-    if (!HasLoadedEntry(k) || !ActionFits(LoadedFrom[k], LoadedTo[k])) return ShowForward(false);
-    ApplyMoveShown(LoadedFrom[k], LoadedTo[k]);
+    if (!HasLoadedEntry(k) || !ActionFits(LoadedEntry(k))) return ShowForward(false);
+    ApplyMoveShown(LoadedEntry(k));
     if (k == BranchMark) BranchMark = 0;
     CountEntry();
     CheckWin();

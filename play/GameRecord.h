@@ -1,11 +1,10 @@
 #pragma once
 
-#include "core/Numbers.h"
+#include "core/Action.h"
 
 /// The record of the game being played, the record of the game loaded last, and walking along both.
 ///
-/// Entry k is a pair of squares: a ring placement (square, 0) for k = 1 and 2, otherwise
-/// (origin, destination), or (0, 0) where a side passed. MoveCount is the number of the next entry.
+/// Entries 1 and 2 are the ring placements. MoveCount is the number of the next entry.
 namespace brastel {
 
 // ---- Records ----
@@ -27,18 +26,22 @@ extern Int16 LoadedCount;
 /// The entry at which the user left the loaded game with an action of their own, 0 for none.
 extern Int16 BranchMark;
 
+/// Entry k, 1 to MaxEntries, of either record.
+inline Action PlayedEntry(int k) { return {PlayedFrom[k], PlayedTo[k]}; }
+inline Action LoadedEntry(int k) { return {LoadedFrom[k], LoadedTo[k]}; }
+
 /// True at the end of the record, where no further action is taken.
 bool IsRecordFull();
 
 /// Writes the entry at MoveCount. Counting on is left to the caller. Precondition: not full.
-void WriteEntry(int from, int to);
+void WriteEntry(const Action& entry);
 
 /// Counts the entry just written.
 void CountEntry();
 
 /// Plays an entry again without showing it, and counts it. One that does not fit only passes the
 /// turn: pieces set up outside may have come back earlier in play than they do here.
-void ReplayEntry(int from, int to);
+void ReplayEntry(const Action& entry);
 
 /// Takes the start tables in force and the loaded record as one game, from its start: stepping back
 /// offers btn_Forward again where the game played agrees with it.

@@ -30,8 +30,8 @@ void RestoreForward() {
 }
 
 /// Writes and counts the entry, passes the turn and clears the status line.
-void EnterAction(int from, int to) {
-    WriteEntry(from, to);
+void EnterAction(const Action& action) {
+    WriteEntry(action);
     if (ForwardWasVisible) BranchMark = Pos.MoveCount;
     CountEntry();
     ShowBackward(true);
@@ -41,10 +41,10 @@ void EnterAction(int from, int to) {
 }
 
 /// The common steps after an accepted move, hit or pass.
-void FinishHumanAction(int from, int to) {
+void FinishHumanAction(const Action& action) {
     ReturnOutsidePieces();
     View->PlacePieces();
-    EnterAction(from, to);
+    EnterAction(action);
     CheckWin();
     RunComputerTurns(true);
     RefreshCandidates();
@@ -57,16 +57,17 @@ void Refuse(std::string_view why) {
 }
 
 /// A move, hit or ring pass.
-void TakeAction(int from, int to) {
+void TakeAction(const Action& action) {
+    const auto [from, to] = action;
     if (IsThinking || from == to) return;
     BeginAction();
-    if (IsRecordFull()) return Refuse(WhyRefused(from, to));
-    if (IsAccepted(from, to)) {
-        ApplyAction(from, to);
-        return FinishHumanAction(from, to);
+    if (IsRecordFull()) return Refuse(WhyRefused(action));
+    if (IsAccepted(action)) {
+        ApplyAction(action);
+        return FinishHumanAction(action);
     }
     const bool isPushBack = CheckHit(PieceOn(from), PieceOn(to)) == HitVerdict::PushBack;
-    if (!isPushBack) return Refuse(WhyRefused(from, to));
+    if (!isPushBack) return Refuse(WhyRefused(action));
     ShowStatus(PushBackText);
     RestoreForward();
 }
@@ -74,10 +75,10 @@ void TakeAction(int from, int to) {
 }  // namespace
 
 void DropOnBoard(Piece dragged, int x, int y) {
-    TakeAction(SquareOf(dragged), IsBoardPoint(x, y) ? SquareFromPoint(x, y) : NoSquare);
+    TakeAction({SquareOf(dragged), IsBoardPoint(x, y) ? SquareFromPoint(x, y) : NoSquare});
 }
 
-void DropOnPiece(Piece dragged, Piece target) { TakeAction(SquareOf(dragged), SquareOf(target)); }
+void DropOnPiece(Piece dragged, Piece target) { TakeAction({SquareOf(dragged), SquareOf(target)}); }
 
 void DoubleClickPiece(Piece piece) {
     if (IsThinking) return;
@@ -85,7 +86,7 @@ void DoubleClickPiece(Piece piece) {
     BeginAction();
     if (!PlaceRing(piece)) return Refuse(WhyRingRefused(SquareOf(piece)));
     View->PlacePieces();
-    EnterAction(SquareOf(piece), 0);
+    EnterAction({SquareOf(piece), NoSquare});
     if (endsSetup) return RestoreForward();
     RunComputerTurns(false);
     RefreshCandidates();

@@ -13,59 +13,55 @@ namespace brastel {
 
 namespace {
 
-struct Action {
-    int From;
-    int To;
-
-    int Columns() const { return std::abs(Column(To) - Column(From)); }
-    int Rows() const { return std::abs(Row(To) - Row(From)); }
-    bool IsStraight() const { return Columns() == 0 || Rows() == 0; }
-};
+/// How far an action goes.
+int Columns(const Action& e) { return std::abs(Column(e.Destination) - Column(e.Origin)); }
+int Rows(const Action& e) { return std::abs(Row(e.Destination) - Row(e.Origin)); }
 
 struct Rule {
     bool (*IsBroken)(const Action&);
     std::string_view Words;
 };
 
-bool IsCarrier(const Action& action) { return IsRingSquare(action.From); }
-bool GoesOut(const Action& action) { return !InField(action.To); }
-bool IsOutside(const Action& action) { return !InField(action.From); }
+bool IsCarrier(const Action& action) { return IsRingSquare(action.Origin); }
+bool GoesOut(const Action& action) { return !InField(action.Destination); }
+bool IsOutside(const Action& action) { return !InField(action.Origin); }
 
 bool IsWayBlocked(const Action& action) {
-    return !AreEmpty(
-        GuardsOf(Column(action.To) - Column(action.From), Row(action.To) - Row(action.From)),
-        action.From);
+    return !AreEmpty(GuardsOf(Column(action.Destination) - Column(action.Origin),
+                              Row(action.Destination) - Row(action.Origin)),
+                     action.Origin);
 }
 
 bool IsColumnBlocked(const Action& action) {
-    if (action.Columns() != 0) return false;
-    const int step = action.To > action.From ? Down : Up;
-    for (int square = action.From + step; square != action.To; square += step) {
+    if (Columns(action) != 0) return false;
+    const int step = action.Destination > action.Origin ? Down : Up;
+    for (int square = action.Origin + step; square != action.Destination; square += step) {
         if (Pos.Board[square] != Empty) return true;
     }
     return false;
 }
 
 bool PushesBack(const Action& action) {
-    return CheckHit(PieceOn(action.From), PieceOn(action.To)) == HitVerdict::PushBack;
+    return CheckHit(PieceOn(action.Origin), PieceOn(action.Destination)) == HitVerdict::PushBack;
 }
 
 bool Always(const Action&) { return true; }
 
 constexpr std::array PieceRules{
-    Rule{[](const Action& e) { return !IsOnBoard(e.From) || !IsOnBoard(e.To); },
+    Rule{[](const Action& e) { return !IsOnBoard(e.Origin) || !IsOnBoard(e.Destination); },
          "there is no such square"},
-    Rule{[](const Action& e) { return Pos.Board[e.From] == Empty; }, "no piece stands there"},
-    Rule{[](const Action& e) { return Pos.Board[e.From] != Pos.SideToMove; },
+    Rule{[](const Action& e) { return Pos.Board[e.Origin] == Empty; }, "no piece stands there"},
+    Rule{[](const Action& e) { return Pos.Board[e.Origin] != Pos.SideToMove; },
          "the piece belongs to the other side"},
-    Rule{[](const Action& e) { return e.From == e.To; }, "the piece stays where it is"},
+    Rule{[](const Action& e) { return e.Origin == e.Destination; }, "the piece stays where it is"},
 };
 
 constexpr std::array RingPassRules{
     Rule{[](const Action& e) { return !IsCarrier(e); },
          "a friendly piece stands there, and there is no ring to pass to it"},
     Rule{GoesOut, "a ring cannot be passed to a piece outside"},
-    Rule{[](const Action& e) { return IsRingSquare(e.To); }, "the receiver carries a ring itself"},
+    Rule{[](const Action& e) { return IsRingSquare(e.Destination); },
+         "the receiver carries a ring itself"},
     Rule{Always, "a ring is passed to a neighbour on a diagonal, or a knight's move away"},
 };
 
@@ -74,23 +70,24 @@ constexpr std::array HitRules{
     Rule{GoesOut, "a piece outside cannot be pushed"},
     Rule{IsCarrier, "a ring carrier cannot push"},
     Rule{PushesBack, "the piece that has just hit this one cannot be pushed back"},
-    Rule{[](const Action& e) { return !e.IsStraight(); }, "pieces push along rows and columns"},
-    Rule{[](const Action& e) { return e.Columns() + e.Rows() > 2; },
+    Rule{[](const Action& e) { return Columns(e) != 0 && Rows(e) != 0; },
+         "pieces push along rows and columns"},
+    Rule{[](const Action& e) { return Columns(e) + Rows(e) > 2; },
          "too far: pieces push from one or two squares away"},
     Rule{IsWayBlocked, "the way is blocked"},
-    Rule{[](const Action& e) { return e.Columns() + e.Rows() == 2 && IsRingSquare(e.To); },
+    Rule{[](const Action& e) { return Columns(e) + Rows(e) == 2 && IsRingSquare(e.Destination); },
          "a ring carrier can only be pushed from the next square"},
     Rule{Always, "no room behind: two pieces in a row cannot be pushed"},
 };
 
 constexpr std::array MoveRules{
     Rule{IsOutside, "the piece waits outside and comes back by itself"},
-    Rule{[](const Action& e) { return e.To == GoalSquare(Pos.SideToMove); },
+    Rule{[](const Action& e) { return e.Destination == GoalSquare(Pos.SideToMove); },
          "only the computer's carriers enter the goal; a carrier wins right before it"},
     Rule{GoesOut, "pieces do not leave the field by themselves"},
     Rule{IsWayBlocked, "the way is blocked"},
     Rule{IsColumnBlocked, "the way is blocked"},
-    Rule{[](const Action& e) { return e.Columns() == 0; },
+    Rule{[](const Action& e) { return Columns(e) == 0; },
          "too far: a slide along the column ends before a friendly piece"},
     Rule{Always, "too far: pieces go one or two squares"},
 };
@@ -103,7 +100,7 @@ std::string_view FirstBroken(std::span<const Rule> rules, const Action& action) 
 }
 
 std::string_view BrokenRuleOfKind(const Action& action) {
-    const Int16 target = Pos.Board[action.To];
+    const Int16 target = Pos.Board[action.Destination];
     if (target == Empty) return FirstBroken(MoveRules, action);
     if (target == Pos.SideToMove) return FirstBroken(RingPassRules, action);
     return FirstBroken(HitRules, action);
@@ -111,10 +108,9 @@ std::string_view BrokenRuleOfKind(const Action& action) {
 
 }  // namespace
 
-std::string_view WhyRefused(int from, int to) {
+std::string_view WhyRefused(const Action& action) {
     if (!BothRingsPlaced()) return "the rings must be placed first";
     if (IsRecordFull()) return "the record is full";
-    const Action action{from, to};
     const std::string_view broken = FirstBroken(PieceRules, action);
     return broken.empty() ? BrokenRuleOfKind(action) : broken;
 }

@@ -15,17 +15,10 @@ namespace {
 /// Long enough for the window to draw "Thinking ..." and the busy cursor.
 constexpr float PauseBeforeSearch = 0.05F;
 
-struct Action {
-    Int16 Origin;
-    Int16 Destination;
-};
-
 /// What the side plays when this candidate of row 1 was chosen; index 0 stands for none.
 Action ActionOf(Int16 chosen) {
     const bool isWithoutPlacement = !BothRingsPlaced() && chosen == 0;
-    if (isWithoutPlacement) return {SquareOf({Pos.SideToMove, 1}), 0};
-    const MoveCode code = PlayableCode(chosen);
-    return {OriginOf(code), DestinationOf(code)};
+    return isWithoutPlacement ? Action{SquareOf({Pos.SideToMove, 1})} : PlayableAction(chosen);
 }
 
 bool IsComputersTurn() {
@@ -57,11 +50,11 @@ bool PlayChosenMove(Int16 depth) {
     const Int16 index = ChooseMove(depth);
     if (View->IsClosing()) return false;
     const Action action = ActionOf(index);
-    if (!ActionFits(action.Origin, action.Destination)) {
+    if (!ActionFits(action)) {
         ShowStatus(BlankText);
         return false;
     }
-    ApplyMoveShown(action.Origin, action.Destination);
+    ApplyMoveShown(action);
     CountEntry();
     ShowBackward(true);
     return true;

@@ -46,9 +46,8 @@ void CompareWithSortedRow() {
     SortCandidates(1);
     std::vector<Candidate> row;
     for (int n = 1; n <= CandidateCount[1]; ++n) {
-        const MoveCode code = MoveList[1][n];
-        row.push_back(
-            CandidateOf(OriginOf(code), DestinationOf(code), static_cast<int>(MoveScores[1][n])));
+        const auto [origin, destination] = DecodeMove(MoveList[1][n]);
+        row.push_back(CandidateOf(origin, destination, static_cast<int>(MoveScores[1][n])));
     }
     for (const int width : {32, 14, 7, 5, 4, 1}) CompareBeam(row, width);
     CompareHighestValue(row.empty() ? NoValue : row.front().Value);

@@ -31,14 +31,16 @@ inline bool IsLongCarrierStep(int from, int to) {
 inline Codes AcceptedFor(int from) {
     Codes codes;
     if (!InField(from)) return codes;
-    const auto slides = [from](MoveCode code) { return IsSlide(from, DestinationOf(code)); };
+    const auto slides = [from](MoveCode code) {
+        return IsSlide(from, DecodeMove(code).Destination);
+    };
     for (int to = FirstSquare; to <= LastSquare; ++to) {
-        if (!IsAccepted(from, to) || IsLongCarrierStep(from, to)) continue;
-        codes.push_back(EncodeMove(from, to));
+        if (!IsAccepted({from, to}) || IsLongCarrierStep(from, to)) continue;
+        codes.push_back(EncodeMove({from, to}));
     }
     std::stable_partition(codes.begin(), codes.end(), slides);
     if (IsRingSquare(from) && IsGoalFront(Pos.SideToMove, from)) {
-        codes.insert(codes.begin(), EncodeMove(from, GoalSquare(Pos.SideToMove)));
+        codes.insert(codes.begin(), EncodeMove({from, GoalSquare(Pos.SideToMove)}));
     }
     return codes;
 }

@@ -4,6 +4,7 @@
 #include "tests/RandomPlay.h"
 
 #include <sstream>
+#include <utility>
 
 /// Positions for comparing what is fast with its plain twin.
 namespace brastel {

@@ -6,7 +6,6 @@
 #include "tests/Positions.h"
 
 #include <random>
-#include <utility>
 
 /// Random games, the same on every platform for the same seed.
 namespace brastel {
@@ -19,11 +18,8 @@ int Below(Source& dice, int n) {
     return static_cast<int>(dice() % static_cast<unsigned>(n));
 }
 
-/// Origin and destination.
-using Action = std::pair<int, int>;
-
-/// An action that people may take, or (0, 0): the best of a few candidates in row 1 (aimless games
-/// see few hits), or sometimes a ring carrier's long step, which no candidate is.
+/// An action that people may take, or NullMove: the best of a few candidates in row 1 (aimless
+/// games see few hits), or sometimes a ring carrier's long step, which no candidate is.
 template <typename Source>
 Action DrawAction(Source& dice) {
     for (int attempt = 0; attempt < 20 && CandidateCount[1] > 0; ++attempt) {
@@ -32,14 +28,14 @@ Action DrawAction(Source& dice) {
             const int other = 1 + Below(dice, CandidateCount[1]);
             if (MoveScores[1][other] > MoveScores[1][best]) best = other;
         }
-        Action action{OriginOf(MoveList[1][best]), DestinationOf(MoveList[1][best])};
+        Action action = DecodeMove(MoveList[1][best]);
         if (Below(dice, 8) == 0) {
-            action.first = Pos.RingSquare[dice() % RingCount];
+            action.Origin = Pos.RingSquare[dice() % RingCount];
             const int columns = Below(dice, 5) - 2;
             const int rows = Below(dice, 5) - 2;
-            action.second = action.first + columns * Right + rows * Down;
+            action.Destination = action.Origin + columns * Right + rows * Down;
         }
-        if (IsAccepted(action.first, action.second)) return action;
+        if (IsAccepted(action)) return action;
     }
     return {};
 }
@@ -52,8 +48,7 @@ inline void Wander(int layout, int entries, Dice& dice) {
     for (; Pos.MoveCount <= entries; ++Pos.MoveCount) {
         const int receiver = 1 + Below(dice, std::min(LayoutPieces(layout), 8));
         const Action ring{SquaresOf(Pos.SideToMove)[receiver], 0};
-        const auto [from, to] = BothRingsPlaced() ? DrawAction(dice) : ring;
-        ApplyMoveQuiet(from, to);
+        ApplyMoveQuiet(BothRingsPlaced() ? DrawAction(dice) : ring);
         GenerateMoves(1);
     }
 }

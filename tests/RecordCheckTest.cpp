@@ -15,14 +15,14 @@ TEST(RecordCheckTest, BrokenRulesAreNamed) {
         {"R11 B44", 11, 4, ""}};
     for (const auto& [pieces, from, to, broken] : cases) {
         Place(pieces);
-        EXPECT_EQ(BrokenRule(from, to), broken) << pieces;
+        EXPECT_EQ(BrokenRule({from, to}), broken) << pieces;
     }
     SelectStartLayout(5);
     SetUpStartPosition();
-    EXPECT_EQ(BrokenRule(0, 0), "the ring must be given to a piece first");
-    EXPECT_EQ(BrokenRule(28, 0), "only pieces 1 to 8 may take the ring");
+    EXPECT_EQ(BrokenRule(NullMove), "the ring must be given to a piece first");
+    EXPECT_EQ(BrokenRule({28}), "only pieces 1 to 8 may take the ring");
     RedStart[0] = 28;
-    EXPECT_EQ(BrokenRule(28, 0), "") << "a free setup writes the square there";
+    EXPECT_EQ(BrokenRule({28}), "") << "a free setup writes the square there";
 }
 
 /// Games by people and by the computer, with steps back.

@@ -35,9 +35,9 @@ TEST(PieceActionTest, Cases) {
     for (const auto& [name, before, from, to, after] : cases) {
         SCOPED_TRACE(name);
         Place(before);
-        EXPECT_EQ(IsAccepted(from, to), !after.empty());
+        EXPECT_EQ(IsAccepted({from, to}), !after.empty());
         if (after.empty()) continue;
-        ApplyAction(from, to);
+        ApplyAction({from, to});
         EXPECT_EQ(Listed(), after);
     }
 }
@@ -62,7 +62,7 @@ TEST(PieceActionTest, HitsThatDoNotFit) {
     for (const auto& [pieces, from, to] :
          {std::tuple{"r68 b60 b52", 68, 60}, {"r68 b61", 68, 61}, {"r12 b4", 12, 4}}) {
         Place(pieces);
-        EXPECT_FALSE(ActionFits(from, to)) << pieces;
+        EXPECT_FALSE(ActionFits({from, to})) << pieces;
     }
 }
 
@@ -108,7 +108,7 @@ TEST(PiecesOutsideTest, NobodyComesBackWhereNoSquareChanged) {
         Place("R20 r11 r2");
         Pos.MoveCount = ToInt16(entry);
         const BoardCells before = Pos.Board;
-        ApplyMoveQuiet(from, to);
+        ApplyMoveQuiet({from, to});
         EXPECT_TRUE(Pos.Board == before) << Listed();
     }
 }

@@ -72,7 +72,7 @@ private:
     /// is the best of the candidates tried before it.
     double ValueOf(const PlainCandidate& candidate, int ply, double best) const {
         const Position before = Pos;
-        ApplyMoveQuiet(OriginOf(candidate.Code), DestinationOf(candidate.Code));
+        ApplyMoveQuiet(DecodeMove(candidate.Code));
         const double gain = candidate.Value / 1.01;
         const double value = gain - BestReply(ply + 1, gain, best);
         Pos = before;

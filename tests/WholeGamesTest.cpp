@@ -40,9 +40,8 @@ protected:
     void PlayByHand() {
         GenerateMoves(1);
         SortCandidates(1);
-        const MoveCode best = MoveList[1][1];
-        const int to = CandidateCount[1] == 0 ? NoSquare : DestinationOf(best);
-        Do(InField(to) ? std::to_string(OriginOf(best)) + '-' + std::to_string(to) : "btn_Hint");
+        const auto [from, to] = CandidateCount[1] == 0 ? NullMove : DecodeMove(MoveList[1][1]);
+        Do(InField(to) ? std::to_string(from) + '-' + std::to_string(to) : "btn_Hint");
     }
 
     /// They follow the computer's moves, and not those of a hand.

@@ -30,7 +30,7 @@ TEST(WordsTest, SquaresAreTold) {
 /// Plays it as far as the position alone goes.
 Position PositionAfter(int from, int to) {
     const Position before = Pos;
-    ApplyMoveQuiet(from, to);
+    ApplyMoveQuiet({from, to});
     ++Pos.MoveCount;
     return std::exchange(Pos, before);
 }

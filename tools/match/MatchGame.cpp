@@ -56,8 +56,7 @@ void PlaceRandomRing(std::mt19937& dice, int pieces) {
 /// Without a candidate that can be played the side passes, as it does when it chooses.
 void PlayRandomMove(std::mt19937& dice) {
     const int count = CandidateCount[1];
-    const MoveCode code = PlayableCode(ToInt16(count == 0 ? 0 : 1 + Draw(dice, count)));
-    ApplyMoveShown(OriginOf(code), DestinationOf(code));
+    ApplyMoveShown(PlayableAction(ToInt16(count == 0 ? 0 : 1 + Draw(dice, count))));
     CountEntry();
     CheckWin();
 }

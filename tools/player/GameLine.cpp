@@ -39,7 +39,7 @@ void CountKind(const Action& entry) {
 
 /// Only a side without a candidate that can be played passes.
 void CheckPassing(const Action& entry) {
-    if (!BothRingsPlaced() || entry.first != NoSquare) return;
+    if (!BothRingsPlaced() || entry.Origin != NoSquare) return;
     GenerateMoves(1);
     Require(ChoosePlayable() == 0, "a side passed that could move");
 }
@@ -47,29 +47,29 @@ void CheckPassing(const Action& entry) {
 // ---- Three ways to play an entry, from the same position ----
 
 void PlayQuietly(const Action& entry) {
-    ApplyMoveQuiet(entry.first, entry.second);
+    ApplyMoveQuiet(entry);
     CountEntry();
     RequireConsistent();
 }
 
 void PlayInView(const Action& entry) {
-    ApplyMoveShown(entry.first, entry.second);
+    ApplyMoveShown(entry);
     CountEntry();
 }
 
 void PlayByGesture(const Action& entry) {
     Level = TwoPlayerLevel;
-    if (!BothRingsPlaced()) return DoubleClickPiece(PieceOn(entry.first));
-    Drag(entry.first, entry.second);
+    if (!BothRingsPlaced()) return DoubleClickPiece(PieceOn(entry.Origin));
+    Drag(entry.Origin, entry.Destination);
 }
 
 /// `expected` is where the entry leads if people may play it; where the rules differ, it is
 /// refused.
 void CheckGesture(const Action& entry, const Position& expected) {
-    const Piece actor = PieceOn(entry.first);
+    const Piece actor = PieceOn(entry.Origin);
     if (!actor) return;
     const bool accepted = BothRingsPlaced()
-                              ? IsAccepted(entry.first, entry.second)
+                              ? IsAccepted(entry)
                               : actor.Side == Pos.SideToMove && actor.Index <= LastRingPiece;
     Require(PositionAfter([&] { PlayByGesture(entry); }) == (accepted ? expected : Pos),
             "a drop leads elsewhere than the move of the computer");
@@ -137,8 +137,8 @@ void CheckCandidates() {
     const Codes codes = GeneratedCandidates();
     Require(codes == ExpectedCandidates(), "the candidates are not what the rules accept");
     for (const MoveCode code : codes) {
-        const int to = DestinationOf(code);
-        Require((BothRingsPlaced() && !InField(to)) || ActionFits(OriginOf(code), to),
+        const Action action = DecodeMove(code);
+        Require((BothRingsPlaced() && !InField(action.Destination)) || ActionFits(action),
                 "a candidate does not fit");
     }
 }
@@ -159,7 +159,7 @@ void CheckPosition(const Position& before, const Action& entry) {
 void FollowEntry(const Action& entry, Origin origin) {
     const Position before = Line.back();
     Pos = before;
-    Require(ActionFits(entry.first, entry.second), "the record holds what cannot be played");
+    Require(ActionFits(entry), "the record holds what cannot be played");
     CountKind(entry);
     if (origin == Origin::Computer) CheckPassing(entry);
     const Position quiet = PositionAfter([&] { PlayQuietly(entry); });
@@ -191,7 +191,7 @@ void BeginLine() {
     LineIsExact = !HasLateReturns();
     Line.assign(1, Pos);
     for (int k = 1; k < played.MoveCount; ++k) {
-        ReplayEntry(PlayedFrom[k], PlayedTo[k]);
+        ReplayEntry(PlayedEntry(k));
         Line.push_back(Pos);
     }
     Require(Pos == played || !LineIsExact, "the record leads elsewhere than the game");
@@ -204,7 +204,7 @@ void FollowLine(int first, Origin origin) {
     const Aside aside;
     for (int k = first; k < end; ++k) {
         Count("answers of the computer", k > first);
-        FollowEntry({PlayedFrom[k], PlayedTo[k]}, k > first ? Origin::Computer : origin);
+        FollowEntry(PlayedEntry(k), k > first ? Origin::Computer : origin);
     }
 }
 

@@ -57,10 +57,10 @@ Gesture SetUp() {
 
 /// Along the loaded game, now and then by the user's own hand.
 Gesture FollowLoaded() {
-    const int from = LoadedFrom[Pos.MoveCount];
+    const auto [from, to] = LoadedEntry(Pos.MoveCount);
     if (!OneIn(4)) return {Kind::Forward};
     if (!BothRingsPlaced()) return {Kind::DoubleClick, PieceOn(from)};
-    return DropOnSquare(from, LoadedTo[Pos.MoveCount]);
+    return DropOnSquare(from, to);
 }
 
 /// Mostly accepted, so that games get somewhere.

@@ -12,6 +12,7 @@
 #include <fstream>
 #include <iterator>
 #include <sys/mman.h>
+#include <utility>
 
 namespace brastel {
 

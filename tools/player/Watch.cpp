@@ -82,7 +82,7 @@ struct Doing {
         const bool isFull = First > MaxEntries;
         if (What == Kind::Drop) {
             return First >= 3 && !isFull && side == Pos.SideToMove && From != NoSquare &&
-                   From != To && IsAccepted(From, To);
+                   From != To && IsAccepted({From, To});
         }
         if (What == Kind::DoubleClick) {
             return First == (side == Red ? 1 : 2) && From != NoSquare &&
@@ -94,8 +94,7 @@ struct Doing {
         }
         if (What == Kind::Hint) return !InFreeSetup() && !isFull;
         if (What == Kind::Forward) {
-            return First <= LoadedCount && !isFull &&
-                   ActionFits(LoadedFrom[First], LoadedTo[First]);
+            return First <= LoadedCount && !isFull && ActionFits(LoadedEntry(First));
         }
         return What != Kind::LevelChoice || (Done.Number >= 0 && Done.Number <= MaxPly);
     }

@@ -13,11 +13,11 @@ namespace {
 
 // ---- What may be played ----
 
-bool IsCandidate(int from, int to) {
+bool IsCandidate(const Action& entry) {
     GenerateMoves(1);
+    const Action listed = BothRingsPlaced() ? entry : Action{entry.Origin};
     for (int n = 1; n <= CandidateCount[1]; ++n) {
-        if (OriginOf(MoveList[1][n]) != from) continue;
-        if (!BothRingsPlaced() || DestinationOf(MoveList[1][n]) == to) return true;
+        if (DecodeMove(MoveList[1][n]) == listed) return true;
     }
     return false;
 }
@@ -29,27 +29,27 @@ bool MayPass() {
 
 // ---- Ring placements ----
 
-std::string_view BrokenPlacementRule(int from, int to) {
+std::string_view BrokenPlacementRule(const Action& entry) {
+    const int from = entry.Origin;
     const int side = IsPlacingRing(Red) ? Red : Blue;
     const Piece piece = PieceOn(from);
     const bool wasSetUp = (side == Red ? RedStart : BlueStart)[0] == from;
     const bool mayTakeRing = piece.Index <= LastRingPiece || wasSetUp;
-    if ((piece.Side == side && mayTakeRing) || IsCandidate(from, to)) return {};
+    if ((piece.Side == side && mayTakeRing) || IsCandidate(entry)) return {};
     if (from == NoSquare) return "the ring must be given to a piece first";
     return WhyRingRefused(from);
 }
 
 }  // namespace
 
-std::string_view BrokenRule(int from, int to) {
-    if (!BothRingsPlaced()) return BrokenPlacementRule(from, to);
-    if (from == NoSquare && to == NoSquare)
-        return MayPass() ? "" : "a side that can move may not pass";
-    if (IsAccepted(from, to)) return {};
-    const bool isCandidate = IsCandidate(from, to);
-    if (isCandidate && ActionFits(from, to)) return {};
+std::string_view BrokenRule(const Action& entry) {
+    if (!BothRingsPlaced()) return BrokenPlacementRule(entry);
+    if (entry == NullMove) return MayPass() ? "" : "a side that can move may not pass";
+    if (IsAccepted(entry)) return {};
+    const bool isCandidate = IsCandidate(entry);
+    if (isCandidate && ActionFits(entry)) return {};
     if (isCandidate) return "an opponent waits in the goal";
-    return WhyRefused(from, to);
+    return WhyRefused(entry);
 }
 
 }  // namespace brastel

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "core/Action.h"
+
 #include <string_view>
 
 namespace brastel {
@@ -12,6 +14,6 @@ namespace brastel {
 /// piece that the start table names (a free setup wrote it there), or where the computer's list has
 /// it. Nobody reads the second number of a placement. The turn may be passed by a side without a
 /// candidate that can be played.
-std::string_view BrokenRule(int from, int to);
+std::string_view BrokenRule(const Action& entry);
 
 }  // namespace brastel

@@ -27,10 +27,10 @@ Course Extended(const Course& course, const RecordedEntry& entry, Manner manner)
     Course longer = course;
     Pos = course.back();
     if (manner == Manner::Shown) {
-        ApplyMoveShown(entry.From, entry.To);
+        ApplyMoveShown(entry.Played);
         CountEntry();
     } else {
-        ReplayEntry(entry.From, entry.To);
+        ReplayEntry(entry.Played);
     }
     longer.push_back(Pos);
     return longer;
@@ -57,7 +57,7 @@ public:
         for (const Course& course : Courses) {
             Pos = course.back();
             const bool isPlacement = !BothRingsPlaced();
-            const std::string_view broken = BrokenRule(entry.From, entry.To);
+            const std::string_view broken = BrokenRule(entry.Played);
             if (cause.empty()) cause = broken;
             if (!broken.empty()) continue;
             AddNew(next, Extended(course, entry, Manner::Shown));
@@ -94,8 +94,8 @@ void PlayOn(RecordedGame& game) {
     while (game.Positions.size() <= game.Entries.size()) {
         const RecordedEntry& entry = game.Entries[game.Positions.size() - 1];
         Pos = game.Positions.back();
-        if (!ActionFits(entry.From, entry.To)) return;
-        ApplyMoveShown(entry.From, entry.To);
+        if (!ActionFits(entry.Played)) return;
+        ApplyMoveShown(entry.Played);
         CountEntry();
         game.Positions.push_back(Pos);
     }
@@ -123,7 +123,7 @@ RecordedGame ReadRecordedGame(const std::string& path) {
     game.Line = reading.Line;
     if (reading.Error != FileError::None) return game;
     for (int k = 1; k <= LoadedCount; ++k) {
-        game.Entries.push_back({LoadedFrom[k], LoadedTo[k], reading.EntryLine[k]});
+        game.Entries.push_back({LoadedEntry(k), reading.EntryLine[k]});
     }
     SetUpStartPosition();
     PlayLawfully(game);

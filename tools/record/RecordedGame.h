@@ -11,8 +11,7 @@
 namespace brastel {
 
 struct RecordedEntry {
-    Int16 From;
-    Int16 To;
+    Action Played;
     /// Where it begins in the file.
     std::int64_t Line;
 };

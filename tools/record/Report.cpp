@@ -39,7 +39,7 @@ std::string Outcome(const RecordedGame& game) {
 
 /// The numbers as they stand in the file, for those who look there.
 std::string AsWritten(const RecordedEntry& entry) {
-    return std::to_string(entry.From) + ' ' + std::to_string(entry.To);
+    return std::to_string(entry.Played.Origin) + ' ' + std::to_string(entry.Played.Destination);
 }
 
 std::string NumberOf(int entry) {
@@ -63,11 +63,13 @@ std::string FileEntryInWords(const RecordedGame& game, int entry) {
     const RecordedEntry& broken = game.Entries[static_cast<std::size_t>(entry) - 1];
     const std::string side = SideInWords(PositionAfter(game, entry - 1).SideToMove);
     if (entry <= RingCount) {
-        return side + (IsOnBoard(broken.From) ? " places the ring on " + SquareInWords(broken.From)
-                                              : " gives the ring to no piece");
+        return side + (IsOnBoard(broken.Played.Origin)
+                           ? " places the ring on " + SquareInWords(broken.Played.Origin)
+                           : " gives the ring to no piece");
     }
-    if (broken.From == NoSquare && broken.To == NoSquare) return side + " passes";
-    return side + " from " + SquareInWords(broken.From) + " to " + SquareInWords(broken.To);
+    if (broken.Played == NullMove) return side + " passes";
+    return side + " from " + SquareInWords(broken.Played.Origin) + " to " +
+           SquareInWords(broken.Played.Destination);
 }
 
 std::string BrokenLine(const RecordedGame& game) {
