@@ -6,10 +6,6 @@ namespace brastel {
 
 namespace {
 
-bool IsPushBack(Piece hitter, Piece target) {
-    return target.Index == Pos.LastHit[0] && hitter.Index == Pos.LastHit[1];
-}
-
 /// A hit from two squares away needs a ringless target and an empty square between.
 bool IsInReach(int from, int to, int direction) {
     const int distance = std::abs(to - from) / std::abs(direction);
@@ -39,10 +35,10 @@ HitVerdict CheckHit(Piece hitter, Piece target) {
     if (hitter.Side != Pos.SideToMove || target.Side != -hitter.Side || to == NoSquare) {
         return HitVerdict::Refused;
     }
-    if (IsPushBack(hitter, target)) return HitVerdict::PushBack;
+    if (IsPushBack(hitter.Index, target.Index)) return HitVerdict::PushBack;
     const int direction = PushDirection(from, to);
     const bool accepted =
-        direction != 0 && IsInReach(from, to, direction) && IsFreeBeyond(to, direction, 1);
+        direction != 0 && IsInReach(from, to, direction) && HasRoomBehind(to, direction);
     return accepted ? HitVerdict::Accepted : HitVerdict::Refused;
 }
 

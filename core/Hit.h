@@ -17,8 +17,17 @@ HitVerdict CheckHit(Piece hitter, Piece target);
 /// Right, Up or Down), or 0 when they share neither.
 int PushDirection(int from, int to);
 
+/// Rule 7: true if the target made the last hit, and on this hitter. Both are piece indices, of
+/// opposite sides.
+inline bool IsPushBack(Int16 hitter, Int16 target) {
+    return target == Pos.LastHit[0] && hitter == Pos.LastHit[1];
+}
+
 /// True if the square `steps` beyond `square` in a direction lies on the board and is empty.
 bool IsFreeBeyond(int square, int direction, int steps);
+
+/// Rule 4: a hit needs an empty square behind its target.
+inline bool HasRoomBehind(int target, int direction) { return IsFreeBeyond(target, direction, 1); }
 
 /// The hitter takes the target's square and pushes it two squares on when the second is free,
 /// otherwise one. A ring on the square stays and so changes hands. Precondition: one of the two

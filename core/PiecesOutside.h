@@ -6,22 +6,6 @@
 /// to it as soon as that square is empty and no opponent stands beside it.
 namespace brastel {
 
-/// One outside cell on which a pushed piece can come to rest.
-struct ReturnCell {
-    Int16 Cell;
-    /// The field square across the border, where the piece comes back.
-    Int16 Return;
-    /// The field squares beside the return square; an opponent on one keeps the piece out. The
-    /// third is NoSquare where the return square is a corner of the field.
-    std::array<Int16, 3> Guards;
-};
-
-constexpr int ReturnCellCount = 36;
-
-/// The cells in the order in which they are served. Two cells share each corner square of the
-/// field; the one in row 0 or 13 comes first and takes the square.
-extern const std::array<ReturnCell, ReturnCellCount> ReturnCells;
-
 /// Where a piece on this return cell comes back; NoSquare for any other square.
 int ReturnSquareOf(int cell);
 

@@ -4,15 +4,15 @@ namespace brastel {
 
 Position Pos;
 
-Int16 SquareOf(Piece piece) {
-    const bool exists = piece.Index >= 1 && piece.Index <= PieceCount(piece.Side);
-    return exists ? SquaresOf(piece.Side)[piece.Index] : ToInt16(NoSquare);
+Int16 SquareOf(Piece piece, const Position& position) {
+    const bool exists = piece.Index >= 1 && piece.Index <= PieceCount(piece.Side, position);
+    return exists ? SquaresIn(position, piece.Side)[piece.Index] : ToInt16(NoSquare);
 }
 
-Piece PieceOn(int square) {
-    if (!IsOnBoard(square) || Pos.Board[square] == Empty) return {};
-    const Int16 side = Pos.Board[square];
-    return {side, FindAt(side, square)};
+Piece PieceOn(int square, const Position& position) {
+    if (!IsOnBoard(square) || position.Board[square] == Empty) return {};
+    const Int16 side = position.Board[square];
+    return {side, FindAt(side, square, position)};
 }
 
 bool IsPieceAt(int x, int y) {

@@ -16,6 +16,10 @@ constexpr Int16 Red = -1;
 constexpr Int16 Blue = 1;
 constexpr Int16 Empty = 0;
 
+/// The goal square that a side's carrier enters: always this one of the goal's two. The side's ring
+/// lies there at the start.
+constexpr Int16 GoalSquare(int side) { return side == Red ? 4 : 109; }
+
 /// One square toward the goal of a side: Red attacks the top, Blue the bottom.
 constexpr int Forward(int side) { return side == Red ? Up : Down; }
 
@@ -44,7 +48,7 @@ struct Position {
     Int16 RedPlaced = 0;
     Int16 BluePlaced = 0;
     /// The squares of ring 0 and ring 1; whoever stands there carries the ring.
-    std::array<Int16, RingCount> RingSquare{4, 109};
+    std::array<Int16, RingCount> RingSquare{GoalSquare(Red), GoalSquare(Blue)};
     /// Index of the piece that made the last hit and of the piece it hit; no sides.
     std::array<Int16, 2> LastHit{};
     /// Red pieces pushed outside less Blue ones, returns taken off.
@@ -74,34 +78,38 @@ struct Piece {
 };
 
 inline PieceSquares& SquaresOf(int side) { return side == Red ? Pos.RedSquare : Pos.BlueSquare; }
+inline const PieceSquares& SquaresIn(const Position& position, int side) {
+    return side == Red ? position.RedSquare : position.BlueSquare;
+}
 
 /// Pieces with which a side starts, 0 to MaxPieces whatever its count holds.
-inline int StartCount(int side) {
-    return std::clamp<int>(side == Red ? Pos.RedCount : Pos.BlueCount, 0, MaxPieces);
+inline int StartCount(int side, const Position& position = Pos) {
+    return std::clamp<int>(side == Red ? position.RedCount : position.BlueCount, 0, MaxPieces);
 }
 
 /// Pieces of a side now: those of an unfinished free setup, too. 0 to MaxPieces.
-inline int PieceCount(int side) {
-    return std::max<int>(StartCount(side), side == Red ? Pos.RedPlaced : Pos.BluePlaced);
+inline int PieceCount(int side, const Position& position = Pos) {
+    const int placed = side == Red ? position.RedPlaced : position.BluePlaced;
+    return std::clamp(placed, StartCount(side, position), MaxPieces);
 }
 
 /// A piece's square; NoSquare when there is no such piece.
-Int16 SquareOf(Piece piece);
+Int16 SquareOf(Piece piece, const Position& position = Pos);
 
 /// Index of the first piece of the side on the square, 0 if none.
-inline Int16 FindAt(int side, int square) {
-    const PieceSquares& squares = SquaresOf(side);
-    // From the end and without stopping: the search asks at every move, and a loop that is left
-    // early is a wrong guess of the processor each time.
+inline Int16 FindAt(int side, int square, const Position& position = Pos) {
+    const PieceSquares& squares = SquaresIn(position, side);
+    // The loop runs backward and never stops early: the search asks at every move, and an early end
+    // costs a branch misprediction each time.
     int found = 0;
-    for (int i = PieceCount(side); i >= 1; --i) found = squares[i] == square ? i : found;
+    for (int i = PieceCount(side, position); i >= 1; --i) found = squares[i] == square ? i : found;
     return ToInt16(found);
 }
 inline Int16 FindRedAt(int square) { return FindAt(Red, square); }
 inline Int16 FindBlueAt(int square) { return FindAt(Blue, square); }
 
 /// The piece that a board square holds, or no piece; any number may be asked for.
-Piece PieceOn(int square);
+Piece PieceOn(int square, const Position& position = Pos);
 
 /// True if a piece's image has its top left corner at this view point; no point off the board has.
 bool IsPieceAt(int x, int y);

@@ -15,7 +15,7 @@ namespace {
 bool CanPush(const Action& hit) {
     const auto [origin, destination] = hit;
     const int direction = PushDirection(origin, destination);
-    return direction != 0 && InField(destination) && IsFreeBeyond(destination, direction, 1);
+    return direction != 0 && InField(destination) && HasRoomBehind(destination, direction);
 }
 
 }  // namespace

@@ -1,16 +1,8 @@
 #include "core/RingPass.h"
 
-#include <cstdlib>
-
 namespace brastel {
 
 namespace {
-
-bool IsPassDistance(int from, int to) {
-    const int across = std::abs(Column(to) - Column(from));
-    const int down = std::abs(Row(to) - Row(from));
-    return across >= 1 && down >= 1 && across + down <= 3;
-}
 
 /// True if `from` holds the ring and `to` does not hold the other one.
 bool CanPass(int ring, int from, int to) {
@@ -26,7 +18,8 @@ bool CheckRingPass(Piece passer, Piece receiver) {
     const int to = SquareOf(receiver);
     if (!BothRingsPlaced() || from == NoSquare) return false;
     if (receiver.Side != Pos.SideToMove || passer.Side != Pos.SideToMove) return false;
-    if (!InField(to) || !IsPassDistance(from, to)) return false;
+    if (!InField(to)) return false;
+    if (!IsPassDistance(Column(to) - Column(from), Row(to) - Row(from))) return false;
     return CanPass(0, from, to) || CanPass(1, from, to);
 }
 

@@ -6,6 +6,11 @@
 /// any pieces between.
 namespace brastel {
 
+/// Rule 6: the distances of a pass, each -7 to 7 or beyond.
+constexpr bool IsPassDistance(int columns, int rows) {
+    return columns != 0 && rows != 0 && columns * columns + rows * rows <= 5;
+}
+
 /// True if the passer may hand a ring to the receiver: both of the side to move, the receiver in
 /// the field and without a ring. The passer may wait outside. Pieces that do not exist are refused.
 bool CheckRingPass(Piece passer, Piece receiver);

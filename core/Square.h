@@ -51,10 +51,12 @@ constexpr auto FieldSquares = [] {
 /// True for the 72 squares inside the border lines; false for every other number.
 constexpr bool InField(int square) { return IsOnBoard(square) && detail::FieldSquares[square]; }
 
+/// The columns of both goals.
+constexpr bool IsGoalColumn(int column) { return column == 3 || column == 4; }
+
 /// True for the two squares of either goal, which are no part of the field.
 constexpr bool IsGoalMouth(int square) {
-    return IsOnBoard(square) && (Row(square) == 0 || Row(square) == RowCount - 1) &&
-           (Column(square) == 3 || Column(square) == 4);
+    return IsOnBoard(square) && !InField(square) && IsGoalColumn(Column(square));
 }
 
 // ---- View coordinates ----

@@ -9,9 +9,6 @@ StartTable BlueStart;
 
 namespace {
 
-constexpr Int16 RedRingStart = 4;
-constexpr Int16 BlueRingStart = 109;
-
 struct Layout {
     Int16 Count;
     std::array<Int16, MaxPieces> RedSquares;
@@ -59,8 +56,8 @@ void SelectStartLayout(int layout) {
     const Layout& chosen = LayoutAt(layout);
     Pos.RedCount = Pos.BlueCount = chosen.Count;
     if (layout == FreeSetupLayout) return;
-    FillTable(RedStart, RedRingStart, chosen, chosen.RedSquares);
-    FillTable(BlueStart, BlueRingStart, chosen, chosen.BlueSquares);
+    FillTable(RedStart, GoalSquare(Red), chosen, chosen.RedSquares);
+    FillTable(BlueStart, GoalSquare(Blue), chosen, chosen.BlueSquares);
 }
 
 void SetUpStartPosition() {

@@ -1,14 +1,16 @@
 #include "core/WinTest.h"
 
+#include "core/Hit.h"
+
 namespace brastel {
 
 namespace {
 
 /// The opponent beside the carrier is the piece that the carrier has just hit.
 bool IsPushBackBeside(int side, int square) {
-    return FindAt(side, square) == Pos.LastHit[0] &&
-           (FindAt(-side, square + Left) == Pos.LastHit[1] ||
-            FindAt(-side, square + Right) == Pos.LastHit[1]);
+    const Int16 carrier = FindAt(side, square);
+    return IsPushBack(FindAt(-side, square + Left), carrier) ||
+           IsPushBack(FindAt(-side, square + Right), carrier);
 }
 
 }  // namespace

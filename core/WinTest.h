@@ -12,9 +12,6 @@ constexpr bool IsGoalFront(int side, int square) {
     return square >= GoalFront(side) && square < GoalFront(side) + GoalFrontWidth;
 }
 
-/// The goal square that a carrier enters: always this one of the goal's two.
-constexpr int GoalSquare(int side) { return side == Red ? 4 : 109; }
-
 /// True if a ring carrier of the side on one of its goal front squares cannot be hit away by the
 /// opponent's next move: nobody beside or behind it can push it, or only a ring carrier, or only
 /// the piece that it has just hit. Precondition: the side's carrier stands there.

@@ -1,5 +1,6 @@
 #include "engine/Candidates.h"
 
+#include "core/Hit.h"
 #include "core/PlainMove.h"
 #include "core/Position.h"
 #include "core/WinTest.h"
@@ -101,16 +102,13 @@ constexpr std::array<Place, 23> CarrierPlaces{{
 
 // ---- Which of the places are candidates ----
 
-bool IsHitOnLastHitter(Int16 piece, int target) {
-    return Pos.LastHit[1] == piece && Pos.LastHit[0] == FindAt(-Pos.SideToMove, target);
-}
-
 bool IsHit(Int16 piece, int square, const Place& place) {
     const int target = square + place.Offset;
     if (Pos.Board[target] != -Pos.SideToMove || !AreEmpty(place.Guards, square)) return false;
     const bool fromTwoAway = place.Guards.Count > 0;
     if (fromTwoAway && IsRingSquare(target)) return false;
-    return Pos.Board[square + place.Behind] == Empty && !IsHitOnLastHitter(piece, target);
+    return Pos.Board[square + place.Behind] == Empty &&
+           !IsPushBack(piece, FindAt(-Pos.SideToMove, target));
 }
 
 /// Where a slide ends: the square before the first piece in the column, when that piece is a friend

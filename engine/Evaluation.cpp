@@ -119,7 +119,7 @@ int EveryMove(const Move& move) {
     if (IsRingSquare(destination)) value += 5;
     if (IsNearRing(destination, BesideOffsets)) value += 2;
     if (IsNearRing(destination, DiagonalOffsets)) value += 1;
-    value += IsGoalColumn(destination) - IsGoalColumn(move.Origin);
+    value += IsGoalColumn(Column(destination)) - IsGoalColumn(Column(move.Origin));
     return value + Contacts(destination);
 }
 

@@ -35,10 +35,6 @@ constexpr int CrowdRows = 4;
 /// A square number by eights: the row, but one more for column 7.
 constexpr int Line(int square) { return square / ColumnCount; }
 
-constexpr bool IsGoalColumn(int square) {
-    return square % ColumnCount == 4 || square % ColumnCount == 5;
-}
-
 constexpr bool IsFieldCorner(int square) {
     return square == 10 || square == 15 || square == 98 || square == 103;
 }

@@ -10,7 +10,7 @@ namespace {
 
 constexpr SquareSet Field = SquaresWhere(InField);
 
-constexpr SquareSet GoalColumns = SquaresWhere(IsGoalColumn);
+constexpr SquareSet GoalColumns = SquaresWhere([](int s) { return IsGoalColumn(Column(s)); });
 
 constexpr SquareSet RedFront = SquaresWhere([](int s) { return IsGoalFront(Red, s); });
 constexpr SquareSet BlueFront = SquaresWhere([](int s) { return IsGoalFront(Blue, s); });

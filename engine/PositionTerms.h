@@ -39,7 +39,7 @@ void FindTerms(PositionTerms& terms);
 
 /// The value of a common candidate from an origin, before what its destination adds.
 inline int CommonValue(const PositionTerms& terms, int origin) {
-    return terms.MustAnswer ? LossValue : terms.Shared - int{IsGoalColumn(origin)};
+    return terms.MustAnswer ? LossValue : terms.Shared - int{IsGoalColumn(Column(origin))};
 }
 
 /// What the destinations add for candidates from an origin.

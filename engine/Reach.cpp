@@ -1,6 +1,7 @@
 #include "engine/Reach.h"
 
 #include "core/PlainMove.h"
+#include "core/RingPass.h"
 
 namespace brastel {
 
@@ -77,9 +78,7 @@ constexpr Window NearPlaces =
     PlacesWhere([](int columns, int rows) { return Squared(columns) <= 1 && Squared(rows) <= 1; });
 constexpr Window HitPlaces =
     PlacesWhere([](int columns, int rows) { return columns == 0 || rows == 0; });
-constexpr Window PassPlaces = PlacesWhere([](int columns, int rows) {
-    return columns != 0 && rows != 0 && Squared(columns) + Squared(rows) < 8;
-});
+constexpr Window PassPlaces = PlacesWhere(IsPassDistance);
 
 constexpr SetsBySquare Reach = SquaresRelated([](int from, int to) {
     const int columns = Column(to) - Column(from);

@@ -131,6 +131,11 @@ Int16 ChooseCandidate(Int16 depth) {
 
 Int16 ChoosePlayable() { return SelectFromRoot(CanBePlayed); }
 
+bool MustPass() {
+    GenerateMoves(SearchPly);
+    return ChoosePlayable() == 0;
+}
+
 Action PlayableAction(Int16 chosen) {
     const MoveCode code = MoveList[SearchPly][chosen];
     return DecodeMove(CanBePlayed(code) ? code : MoveList[SearchPly][ChoosePlayable()]);

@@ -4,32 +4,6 @@ namespace brastel {
 
 namespace {
 
-// ---- Pieces of any position ----
-
-/// As PieceCount, of any position and whatever its counters hold.
-int CountIn(const Position& position, int side) {
-    const int count = side == Red ? position.RedCount : position.BlueCount;
-    const int placed = side == Red ? position.RedPlaced : position.BluePlaced;
-    return std::clamp(std::max(count, placed), 0, MaxPieces);
-}
-
-int SquareIn(const Position& position, Piece piece) {
-    if (piece.Index < 1 || piece.Index > CountIn(position, piece.Side)) return NoSquare;
-    const int square = (piece.Side == Red ? position.RedSquare : position.BlueSquare)[piece.Index];
-    return IsOnBoard(square) ? square : NoSquare;
-}
-
-Piece PieceIn(const Position& position, int square) {
-    if (!IsOnBoard(square)) return {};
-    for (const Int16 side : {Red, Blue}) {
-        for (int i = 1; i <= CountIn(position, side); ++i) {
-            const Piece piece{side, ToInt16(i)};
-            if (SquareIn(position, piece) == square) return piece;
-        }
-    }
-    return {};
-}
-
 // ---- Places ----
 
 /// The goal is its attacker's, as in "the first player to carry a ring into his goal".
@@ -62,7 +36,7 @@ public:
     Change(const Position& before, const Position& after)
         : Before(before),
           After(after),
-          Mover(before.SideToMove == Blue ? Blue : Red),
+          Mover(before.SideToMove),
           IsAction(after.SideToMove == -Mover && (after.MoveCount == before.MoveCount ||
                                                   after.MoveCount == before.MoveCount + 1)) {}
 
@@ -78,7 +52,7 @@ private:
         int From;
         int To;
     };
-    Way WayOf(Piece piece) const { return {SquareIn(Before, piece), SquareIn(After, piece)}; }
+    Way WayOf(Piece piece) const { return {SquareOf(piece, Before), SquareOf(piece, After)}; }
 
     static bool IsReturn(Way way) {
         return way.From != NoSquare && !InField(way.From) && InField(way.To);
@@ -88,7 +62,7 @@ private:
 
     template <typename Operation>
     void ForEachMoved(int side, Operation operation) {
-        const int count = std::max(CountIn(Before, side), CountIn(After, side));
+        const int count = std::max(PieceCount(side, Before), PieceCount(side, After));
         for (int i = 1; i <= count; ++i) {
             const Piece piece{ToInt16(side), ToInt16(i)};
             const Way way = WayOf(piece);
@@ -115,7 +89,7 @@ private:
     /// The piece that the last hit names, if it is this one that came to its square with it.
     Piece PushedBy(Piece piece, Way way) const {
         if (!IsAction || piece.Side != Mover || piece.Index != After.LastHit[0]) return {};
-        const Piece other = PieceIn(Before, way.To);
+        const Piece other = PieceOn(way.To, Before);
         return other.Side == -Mover && other.Index == After.LastHit[1] ? other : Piece{};
     }
 
@@ -143,8 +117,8 @@ private:
     void TellRing(std::size_t ring) {
         if (RingTold[ring]) return;
         const Way way{Before.RingSquare[ring], After.RingSquare[ring]};
-        const Piece from = PieceIn(Before, way.From);
-        const Piece to = PieceIn(After, way.To);
+        const Piece from = PieceOn(way.From, Before);
+        const Piece to = PieceOn(way.To, After);
         if (IsPlacement(ring) && to) return Tell(TakesInWords(to, way.To));
         if (from != to || (!to && way.From != way.To)) Tell(RingInWords(from, to, way));
     }
@@ -214,7 +188,7 @@ std::string PieceInWords(Piece piece) {
 
 std::string ContentInWords(int square) {
     if (!IsOnBoard(square)) return SquareInWords(square);
-    const Piece piece = PieceIn(Pos, square);
+    const Piece piece = PieceOn(square);
     const auto rings = std::ranges::count(Pos.RingSquare, square);
     std::string content = piece ? PieceInWords(piece) : rings == 0 ? "empty" : "";
     if (piece && rings > 0) content += ", carries ";

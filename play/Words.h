@@ -5,7 +5,7 @@
 #include <string>
 
 /// Squares, pieces and what happens to them in English words, for those who hear or read the game
-/// instead of seeing it. Any number may be asked for, and any position be told of.
+/// instead of seeing it. Any number may be asked for.
 namespace brastel {
 
 /// "Red" or "Blue".

@@ -87,23 +87,5 @@ TEST(WordsTest, TheOpeningIsTold) {
               "r1 leaves the board; r2 leaves the board; the ring of r2 goes into Red's goal");
 }
 
-/// What a damaged file can leave behind.
-TEST(WordsTest, DamagedPositionsAreTold) {
-    Position wild;
-    wild.RedCount = wild.BluePlaced = 32767;
-    wild.BlueCount = wild.RedPlaced = -32768;
-    wild.RedSquare.Fill(32767);
-    wild.BlueSquare.Fill(-32768);
-    wild.RingSquare = {-32768, 32767};
-    wild.LastHit = {32767, -32768};
-    wild.SideToMove = -32768;
-    Place("R68 B44");
-    EXPECT_EQ(Told(wild, Pos),
-              "r1 on 9/4; b1 on 6/4; a ring goes to r1 on 9/4; a ring goes to b1 on 6/4");
-    EXPECT_EQ(Told(Pos, wild),
-              "r1 leaves the board; b1 leaves the board; the ring of r1 goes off the board; "
-              "the ring of b1 goes off the board");
-}
-
 }  // namespace
 }  // namespace brastel

@@ -40,8 +40,7 @@ void CountKind(const Action& entry) {
 /// Only a side without a candidate that can be played passes.
 void CheckPassing(const Action& entry) {
     if (!BothRingsPlaced() || entry.Origin != NoSquare) return;
-    GenerateMoves(1);
-    Require(ChoosePlayable() == 0, "a side passed that could move");
+    Require(MustPass(), "a side passed that could move");
 }
 
 // ---- Three ways to play an entry, from the same position ----

@@ -22,11 +22,6 @@ bool IsCandidate(const Action& entry) {
     return false;
 }
 
-bool MayPass() {
-    GenerateMoves(SearchPly);
-    return ChoosePlayable() == 0;
-}
-
 // ---- Ring placements ----
 
 std::string_view BrokenPlacementRule(const Action& entry) {
@@ -44,7 +39,7 @@ std::string_view BrokenPlacementRule(const Action& entry) {
 
 std::string_view BrokenRule(const Action& entry) {
     if (!BothRingsPlaced()) return BrokenPlacementRule(entry);
-    if (entry == NullMove) return MayPass() ? "" : "a side that can move may not pass";
+    if (entry == NullMove) return MustPass() ? "" : "a side that can move may not pass";
     if (IsAccepted(entry)) return {};
     const bool isCandidate = IsCandidate(entry);
     if (isCandidate && ActionFits(entry)) return {};

@@ -42,7 +42,7 @@ std::string Line(const std::string& label, char border, Cell cell) {
 std::string Rule(bool hasGap) {
     return Line("", '+', [hasGap](int column) {
         const bool isInField = column >= 1 && column < ColumnCount - 1;
-        const bool isOpen = hasGap && (column == 3 || column == 4);
+        const bool isOpen = hasGap && IsGoalColumn(column);
         return isInField && !isOpen ? std::string(CellWidth, '-') : std::string();
     });
 }
