@@ -2,8 +2,9 @@
 
 #include "core/Position.h"
 
-/// A piece without a ring steps onto an opponent one or two squares away along a row or column and
-/// pushes it on in the same direction.
+/// Rules 3, 4, 5 and 7, hits: a piece without a ring pushes an opponent in its row or column (3),
+/// but not two pieces in a row (4), takes the ring of a carrier on the next square (5), and cannot
+/// hit back at once (7).
 namespace brastel {
 
 enum class HitVerdict { Accepted, Refused, PushBack };
@@ -17,8 +18,8 @@ HitVerdict CheckHit(Piece hitter, Piece target);
 /// Right, Up or Down), or 0 when they share neither.
 int PushDirection(int from, int to);
 
-/// Rule 7: true if the target made the last hit, and on this hitter. Both are piece indices, of
-/// opposite sides.
+/// Rule 7, no hit back: true if the target made the last hit, and on this hitter. Both are piece
+/// indices, of opposite sides.
 inline bool IsPushBack(Int16 hitter, Int16 target) {
     return target == Pos.LastHit[0] && hitter == Pos.LastHit[1];
 }
@@ -26,7 +27,7 @@ inline bool IsPushBack(Int16 hitter, Int16 target) {
 /// True if the square `steps` beyond `square` in a direction lies on the board and is empty.
 bool IsFreeBeyond(int square, int direction, int steps);
 
-/// Rule 4: a hit needs an empty square behind its target.
+/// Rule 4, two pieces in a row: a hit needs an empty square behind its target.
 inline bool HasRoomBehind(int target, int direction) { return IsFreeBeyond(target, direction, 1); }
 
 /// The hitter takes the target's square and pushes it two squares on when the second is free,

@@ -2,8 +2,9 @@
 
 #include "core/Position.h"
 
-/// A piece pushed off the field waits on an outside cell and steps back onto the field square next
-/// to it as soon as that square is empty and no opponent stands beside it.
+/// Rule 9, pieces outside: a piece pushed off the field waits on an outside cell. It comes back
+/// onto the field square next to it as soon as that square is empty and no opponent stands beside
+/// it.
 namespace brastel {
 
 /// Where a piece on this return cell comes back; NoSquare for any other square.

@@ -2,7 +2,8 @@
 
 #include "core/Position.h"
 
-/// A piece of the side to move goes to an empty square of the field.
+/// Rules 2 and 10, plain moves: a piece moves by one or two steps in any direction and jumps over
+/// nothing, or moves along its column next to a friendly piece.
 namespace brastel {
 
 /// The squares that must be empty for a two-step move, as offsets from the moving piece's square;

@@ -2,11 +2,11 @@
 
 #include "core/Position.h"
 
-/// A ring goes from its carrier to a friendly piece at a diagonal or knight's-move distance, over
-/// any pieces between.
+/// Rule 6, ring passes: a ring goes from its carrier to a friendly piece at a diagonal or
+/// knight's-move distance, over any pieces between.
 namespace brastel {
 
-/// Rule 6: the distances of a pass, each -7 to 7 or beyond.
+/// True for a diagonal or knight's-move distance.
 constexpr bool IsPassDistance(int columns, int rows) {
     return columns != 0 && rows != 0 && columns * columns + rows * rows <= 5;
 }

@@ -2,6 +2,7 @@
 
 #include "core/Position.h"
 
+/// Rule 1, the win: a side wins when its ring carrier stands before its goal and cannot be stopped.
 namespace brastel {
 
 /// The four squares in front of a side's goal, by the first of them: 11 to 14 for Red, 99 to 102

@@ -27,7 +27,7 @@ Int16 ChooseCandidate(Int16 depth);
 /// the goal cannot be played: it counts as a win, and yet would push the opponent off the board.
 Int16 ChoosePlayable();
 
-/// Rule 8: true if the side to move has no candidate that can be played. Lists its candidates in
+/// Rule 8, no movable piece: true if the side to move has no candidate that can be played. Lists its candidates in
 /// row 1.
 bool MustPass();
 

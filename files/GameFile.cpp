@@ -152,7 +152,7 @@ GameReading ReadGameFile(const std::string& path) {
     NumberReader file(path);
     GameReading reading = ReadGame(file);
     reading.SystemError = file.SystemError();
-    TakeLoadedGame();
+    KeepLoadedStart();
     return reading;
 }
 

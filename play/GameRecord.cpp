@@ -2,10 +2,6 @@
 
 #include "core/QuietMove.h"
 #include "core/StartPosition.h"
-#include "engine/Strengths.h"
-#include "play/DisplayedMove.h"
-#include "play/GameState.h"
-#include "play/GameView.h"
 
 namespace brastel {
 
@@ -15,8 +11,6 @@ RecordColumn LoadedFrom;
 RecordColumn LoadedTo;
 Int16 LoadedCount = 0;
 Int16 BranchMark = 0;
-bool ForwardVisible = false;
-bool BackwardVisible = false;
 
 namespace {
 
@@ -39,10 +33,12 @@ StartSquares CurrentStart() {
     return start;
 }
 
+}  // namespace
+
+bool IsRecordFull() { return Pos.MoveCount > MaxEntries; }
+
 bool HasLoadedEntry(int k) { return k >= 1 && k <= MaxEntries && k <= LoadedCount; }
 
-/// True if the first `kept` entries played are those of the loaded game, from the same start, and
-/// the loaded game goes on.
 bool IsOnLoadedLine(int kept) {
     if (!HasLoadedEntry(kept + 1) || CurrentStart() != LoadedStart) return false;
     for (int k = 1; k <= kept; ++k) {
@@ -50,10 +46,6 @@ bool IsOnLoadedLine(int kept) {
     }
     return true;
 }
-
-}  // namespace
-
-bool IsRecordFull() { return Pos.MoveCount > MaxEntries; }
 
 void WriteEntry(const Action& entry) {
     PlayedFrom[Pos.MoveCount] = ToInt16(entry.Origin);
@@ -67,63 +59,9 @@ void ReplayEntry(const Action& entry) {
     CountEntry();
 }
 
-void TakeLoadedGame() {
+void KeepLoadedStart() {
     LoadedStart = CurrentStart();
     BranchMark = 0;
-}
-
-void ShowForward(bool visible) {
-    ForwardVisible = visible;
-    View->ShowForward(visible);
-}
-
-void ShowBackward(bool visible) {
-    BackwardVisible = visible;
-    View->ShowBackward(visible);
-}
-
-void NewGameCommand() {
-    if (IsThinking) return;
-    ResetGame();
-    BranchMark = 0;
-    View->PlacePieces();
-    ShowBackward(false);
-    ShowForward(false);
-}
-
-void OpenGame() {
-    NewGameCommand();
-    SetLevel(EasyDepth);
-}
-
-void BeginLoadedGame() {
-    NewGameCommand();
-    ShowForward(true);
-}
-
-void StepBack() {
-    if (IsThinking) return;
-    const int kept = std::max(Pos.MoveCount - 2, 0);
-    ResetGame();
-    for (int k = 1; k <= kept; ++k) ReplayEntry(PlayedEntry(k));
-    ShowStatus(BlankText);
-    View->PlacePieces();
-    if (kept == 0) ShowBackward(false);
-    // Without a branch only the end of the loaded game hides the button.
-    const bool mayShow = BranchMark == 0 ? kept == LoadedCount - 1 : kept < BranchMark;
-    if (mayShow && IsOnLoadedLine(kept)) ShowForward(true);
-}
-
-void StepForward() {
-    if (IsThinking) return;
-    const int k = Pos.MoveCount;
-    if (!HasLoadedEntry(k) || !ActionFits(LoadedEntry(k))) return ShowForward(false);
-    ApplyMoveShown(LoadedEntry(k));
-    if (k == BranchMark) BranchMark = 0;
-    CountEntry();
-    CheckWin();
-    ShowBackward(true);
-    if (Pos.MoveCount > LoadedCount) ShowForward(false);
 }
 
 }  // namespace brastel

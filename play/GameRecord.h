@@ -43,36 +43,15 @@ void CountEntry();
 /// turn: pieces set up outside may have come back earlier in play than they do here.
 void ReplayEntry(const Action& entry);
 
-/// Takes the start tables in force and the loaded record as one game, from its start: stepping back
-/// offers btn_Forward again where the game played agrees with it.
-void TakeLoadedGame();
+/// Keeps the start tables in force as the start of the loaded game and ends a branch.
+/// IsOnLoadedLine compares later games with that start.
+void KeepLoadedStart();
 
-// ---- Buttons: shown or hidden, never disabled ----
+/// True if the loaded game has an entry k.
+bool HasLoadedEntry(int k);
 
-extern bool ForwardVisible;
-extern bool BackwardVisible;
-void ShowForward(bool visible);
-void ShowBackward(bool visible);
-
-// ---- Commands ----
-
-/// Starts the game again from its start position, both buttons hidden and no branch pending. The
-/// records stay.
-void NewGameCommand();
-
-/// Starts a game in a window just built: a new game at the lowest strength.
-void OpenGame();
-
-/// Goes to the start of the game in force with btn_Forward shown, ready to step through the game
-/// loaded last.
-void BeginLoadedGame();
-
-/// Takes back the last entry by playing the others again from the start. No win is tested and the
-/// computer does not move.
-void StepBack();
-
-/// Plays the next entry of the loaded game. Where there is none, or it does not fit the position,
-/// nothing is played and btn_Forward is hidden.
-void StepForward();
+/// True if the first `kept` entries played are those of the loaded game, from the same start, and
+/// the loaded game goes on.
+bool IsOnLoadedLine(int kept);
 
 }  // namespace brastel

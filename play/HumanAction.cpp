@@ -10,6 +10,7 @@
 #include "play/GameState.h"
 #include "play/GameView.h"
 #include "play/Refusal.h"
+#include "play/Stepping.h"
 #include "play/TurnFlow.h"
 
 namespace brastel {

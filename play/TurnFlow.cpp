@@ -7,6 +7,7 @@
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/GameView.h"
+#include "play/Stepping.h"
 
 namespace brastel {
 

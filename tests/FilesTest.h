@@ -2,7 +2,7 @@
 
 #include "files/FileView.h"
 #include "files/GameFile.h"
-#include "play/GameRecord.h"
+#include "play/Stepping.h"
 
 #include <gtest/gtest.h>
 

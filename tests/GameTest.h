@@ -88,7 +88,7 @@ protected:
     void Begin(const char* position) {
         Start(3);
         LoadedCount = 0;
-        TakeLoadedGame();
+        KeepLoadedStart();
         SetLevel(TwoPlayerLevel);
         if (*position != 0) Place(position);
         Window.PlacePieces();

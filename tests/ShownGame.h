@@ -5,6 +5,7 @@
 #include "play/GameState.h"
 #include "play/GameView.h"
 #include "play/HumanAction.h"
+#include "play/Stepping.h"
 
 #include <functional>
 #include <string>
@@ -63,7 +64,7 @@ inline void LoadPlayedGame() {
     LoadedFrom = PlayedFrom;
     LoadedTo = PlayedTo;
     LoadedCount = ToInt16(Pos.MoveCount - 1);
-    TakeLoadedGame();
+    KeepLoadedStart();
 }
 
 }  // namespace brastel

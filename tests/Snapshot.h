@@ -3,6 +3,7 @@
 #include "core/StartPosition.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "play/Stepping.h"
 
 #include <tuple>
 

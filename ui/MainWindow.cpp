@@ -1,10 +1,10 @@
 #include "ui/MainWindow.h"
 
 #include "core/Position.h"
-#include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/Hint.h"
 #include "play/HumanAction.h"
+#include "play/Stepping.h"
 #include "ui/Announcer.h"
 #include "ui/BoardAccessible.h"
 #include "ui/BoardView.h"

@@ -1,8 +1,8 @@
 #include "ui/Menus.h"
 
 #include "engine/Strengths.h"
-#include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "play/Stepping.h"
 #include "ui/Command.h"
 #include "ui/Layout.h"
 #include "ui/MainWindow.h"

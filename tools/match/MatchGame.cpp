@@ -10,6 +10,7 @@
 #include "play/GameState.h"
 #include "play/GameView.h"
 #include "play/HumanAction.h"
+#include "play/Stepping.h"
 #include "play/TurnFlow.h"
 #include "tools/GameSeed.h"
 #include "tools/Interrupt.h"

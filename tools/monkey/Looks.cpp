@@ -1,7 +1,7 @@
 #include "tools/monkey/Looks.h"
 
-#include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "play/Stepping.h"
 #include "tests/ShownPosition.h"
 #include "tools/monkey/Hands.h"
 #include "tools/player/Require.h"

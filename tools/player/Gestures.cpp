@@ -4,6 +4,7 @@
 #include "core/PiecesOutside.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
+#include "play/Stepping.h"
 #include "tools/player/Chance.h"
 
 namespace brastel {

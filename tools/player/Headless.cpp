@@ -4,6 +4,7 @@
 #include "engine/Random.h"
 #include "files/GameFile.h"
 #include "play/Hint.h"
+#include "play/Stepping.h"
 #include "tools/player/Chance.h"
 #include "tools/player/GameLine.h"
 #include "tools/player/Require.h"
@@ -84,7 +85,7 @@ void StartProgram(int layout) {
     LoadedCount = 0;
     Pos = {};
     SelectStartLayout(layout);
-    TakeLoadedGame();
+    KeepLoadedStart();
 }
 
 void RequireSound() {

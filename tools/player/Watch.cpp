@@ -4,6 +4,7 @@
 #include "core/Opening.h"
 #include "core/WinTest.h"
 #include "engine/Strengths.h"
+#include "play/Stepping.h"
 #include "tests/RandomPlay.h"
 #include "tools/player/GameLine.h"
 #include "tools/player/Require.h"
