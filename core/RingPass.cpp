@@ -16,7 +16,7 @@ bool CanPass(int ring, int from, int to) {
 bool CheckRingPass(Piece passer, Piece receiver) {
     const int from = SquareOf(passer);
     const int to = SquareOf(receiver);
-    if (!BothRingsPlaced() || from == NoSquare) return false;
+    if (!BothRingsPlaced()) return false;
     if (receiver.Side != Pos.SideToMove || passer.Side != Pos.SideToMove) return false;
     if (!InField(to)) return false;
     if (!IsPassDistance(Column(to) - Column(from), Row(to) - Row(from))) return false;

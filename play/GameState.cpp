@@ -9,7 +9,6 @@
 
 namespace brastel {
 
-Int16 ComputerSide = Blue;
 Int16 GameOver = False;
 Int16 Level = EasyDepth;
 bool IsThinking = false;
@@ -30,7 +29,6 @@ void ResetGame() {
     SetUpStartPosition();
     ShowStatus(BlankText);
     GameOver = False;
-    ComputerSide = Blue;
     View->ShowBusy(false);
 }
 

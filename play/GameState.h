@@ -14,7 +14,7 @@ constexpr Int16 False = 0;
 constexpr Int16 True = -1;
 
 /// The side that the computer plays: Blue in every game.
-extern Int16 ComputerSide;
+constexpr Int16 ComputerSide = Blue;
 /// Set when a win is announced; cleared by ResetGame only.
 extern Int16 GameOver;
 /// 0 when two people play, otherwise the depth of the computer's search in plies, 1 to 11.
