@@ -1,6 +1,6 @@
 #include "play/GameState.h"
 #include "play/Words.h"
-#include "tests/FilesTest.h"
+#include "tests/Rows.h"
 #include "tests/WindowTest.h"
 #include "ui/BoardView.h"
 

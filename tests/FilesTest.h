@@ -3,8 +3,7 @@
 #include "files/FileView.h"
 #include "files/GameFile.h"
 #include "play/Stepping.h"
-
-#include <gtest/gtest.h>
+#include "tests/Rows.h"
 
 #include <filesystem>
 #include <fstream>
@@ -21,18 +20,6 @@ inline void WriteBytes(const std::string& path, const std::string& bytes) {
 inline std::string BytesOf(const std::string& path) {
     std::ifstream file(path, std::ios::binary);
     return {std::istreambuf_iterator<char>(file), {}};
-}
-
-/// The lines "steps => what is seen then" of a data file.
-inline std::vector<std::pair<std::string, std::string>> RowsOf(const char* name) {
-    std::vector<std::pair<std::string, std::string>> table;
-    std::ifstream file(BRASTEL_TEST_DATA + std::string(name));
-    for (std::string line; std::getline(file, line);) {
-        const auto arrow = line.find(" => ");
-        if (arrow != line.npos) table.emplace_back(line.substr(0, arrow), line.substr(arrow + 4));
-    }
-    EXPECT_FALSE(table.empty()) << name;
-    return table;
 }
 
 /// A new folder to work in as long as this lives, and windows that remember what they are told. A

@@ -1,4 +1,4 @@
-#include "tests/FilesTest.h"
+#include "tests/Rows.h"
 #include "tests/WindowTest.h"
 
 #include <QMenuBar>

@@ -24,11 +24,6 @@ std::string ListOf(const std::string& drawing, int board) {
 }
 
 void Place(std::string_view pieces) {
-    if (pieces.find('\n') != pieces.npos) {
-        Place(ListOf(std::string(pieces)));
-        Pos.SideToMove = pieces.starts_with("Blue") ? Blue : Red;
-        return;
-    }
     Pos = {};
     Pos.RingSquare = {8, 105};
     Pos.MoveCount = 3;

@@ -9,8 +9,7 @@ namespace brastel {
 
 /// Sets the position from its pieces in index order, as in "R68 b60 b44": r and b are pieces,
 /// capitals carry a ring (ring 0 the first of them). The side of the first piece is to move, and
-/// both rings count as placed; a ring that nobody carries lies in a corner of the board. Or from a
-/// drawing, which is text of more than one line: then Red is to move, or Blue if it begins so.
+/// both rings count as placed; a ring that nobody carries lies in a corner of the board.
 void Place(std::string_view pieces);
 
 /// Such a list, in board order, from a drawing: each line has the number of a row, 0 to 13, and its
