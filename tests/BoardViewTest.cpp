@@ -33,13 +33,14 @@ int LengthOf(const QImage& picture, QPoint start, QPoint step, QRgb color, QRgb 
     return picture.pixel(end) == behind ? (end - begin).manhattanLength() : 0;
 }
 
-/// All of a start layout, where every logical pixel is a whole number of device pixels. The
-/// keyboard's frame lies below the ring.
+/// All of a start layout, where every logical pixel is one device pixel or two. The keyboard's
+/// frame lies below the ring.
 TEST_F(BoardViewTest, EverythingIsDrawnInItsPlace) {
     Open(0);
     const QImage picture = Picture();
+    const int ratio = qRound(picture.devicePixelRatio());
     QImage expected(picture.size(), picture.format());
-    expected.setDevicePixelRatio(picture.devicePixelRatio());
+    expected.setDevicePixelRatio(ratio);
     expected.fill(Ground);
     QPainter painter(&expected);
     const auto outline = [&painter](const QRect& rect) {
@@ -47,7 +48,7 @@ TEST_F(BoardViewTest, EverythingIsDrawnInItsPlace) {
         for (const QRect& edge : frame) painter.fillRect(edge, Black);
     };
     for (const auto& [side, square] : {std::pair{Red, 68}, {Red, 69}, {Blue, 44}, {Blue, 45}}) {
-        const QPixmap bead = BeadPicture(side, CellSize, picture.devicePixelRatio());
+        const QPixmap bead = BeadPicture(side, CellSize, ratio);
         painter.drawPixmap(SquareLeft(square), SquareTop(square), bead);
     }
     outline({20, 20, 320, 560});
@@ -70,8 +71,7 @@ TEST_F(BoardViewTest, EverythingIsDrawnInItsPlace) {
     painter.drawPixmap(QPoint(700, 490), Control<QWidget>("btn_Hint")->grab());
     EXPECT_EQ(picture, expected);
     Do("Up Up Up Up Up Up Up Up");
-    EXPECT_EQ(QColor(Picture().pixel(QPoint(141, 40) * qRound(picture.devicePixelRatio()))),
-              QColor(Black));
+    EXPECT_EQ(QColor(Picture().pixel(QPoint(141, 40) * ratio)), QColor(Black));
     EXPECT_EQ(Window.windowIcon().availableSizes().size(), 7);
 }
 
@@ -122,6 +122,42 @@ TEST_F(BoardViewTest, TheDraggedOutlineIsWhole) {
         }
     }
     Do("^500,680");
+}
+
+TEST_F(BoardViewTest, TheOutlineFollowsThePointerAndGoes) {
+    Do("layout3 mnu_TwoPlayer !68 !44");
+    const auto* outline = Control<QWidget>("DragOutline");
+    // What has been painted so far, and not what would be painted now.
+    const auto screen = [this] {
+        QCoreApplication::processEvents();
+        return Window.screen()->grabWindow(Window.winId()).toImage();
+    };
+    const QImage before = screen();
+    DoAt('v', Centre(66) + QPoint(5, -7));
+    EXPECT_TRUE(outline->isVisible());
+    // Over lines, pieces, circles and buttons.
+    for (int n = 0; n < 90; ++n) {
+        DoAt('>', {80 + n * 7, 340 + n * 37 % 211 - 60});
+        screen();
+    }
+    Do(">700,300");
+    EXPECT_EQ(outline->geometry().center(), QRect(700 - 25, 300 - 13, 41, 41).center());
+    Do("^700,300");
+    EXPECT_FALSE(outline->isVisible());
+    EXPECT_EQ(screen(), before) << "something is left behind";
+}
+
+/// Qt rounds this point to the corner of the next square.
+TEST_F(BoardViewTest, TheLastHalfPixelBelongsToItsSquare) {
+    const QPointF point = InWindow(Centre(69)) + QPointF(19.5, 19.5);
+    for (const auto type : {QEvent::MouseButtonPress, QEvent::MouseButtonRelease}) {
+        const bool isDown = type == QEvent::MouseButtonPress;
+        qt_handleMouseEvent(Window.windowHandle(), point, Window.windowHandle()->mapToGlobal(point),
+                            isDown ? Qt::LeftButton : Qt::NoButton, Qt::LeftButton, type, {},
+                            ++QTest::lastMouseTimestamp);
+    }
+    QCoreApplication::processEvents();
+    EXPECT_EQ(Pos.Board[69], Red);
 }
 
 TEST_F(BoardViewTest, AToolTipIsShown) {

@@ -74,6 +74,14 @@ TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
     EXPECT_EQ(QGuiApplication::overrideCursor(), nullptr);
 }
 
+/// The second press of a double-click begins a drag, but not if it was released meanwhile.
+TEST_F(MainWindowTest, AReleaseWhileTheComputerThinksIsNoticed) {
+    Do("layout3 +69");
+    WhileThinking([this] { DoAt('^', Centre(69)); });
+    Do("\"69");
+    EXPECT_EQ(State(), "2 Red Backward Hint");
+}
+
 }  // namespace
 
 }  // namespace brastel

@@ -6,12 +6,12 @@
 #include "engine/Random.h"
 #include "play/GameState.h"
 #include "tests/Sandbox.h"
-#include "tests/Snapshot.h"
 #include "tools/ReadNumber.h"
 #include "tools/monkey/Deeds.h"
 #include "tools/monkey/Hands.h"
 #include "tools/monkey/Looks.h"
 #include "tools/player/Chance.h"
+#include "tools/player/GameLine.h"
 #include "tools/player/Require.h"
 #include "tools/player/Watch.h"
 
@@ -122,10 +122,10 @@ void ActHere() {
 
 void ActWhileThinking() {
     if (DeedsInPause == MostDeedsInPause) return;
-    const Snapshot before;
+    const Snapshot before = CopyOfGameData();
     BeginEvent(DeedsInPause + 1);
     DoAnything();
-    Require(IsThinking && before.IsStillTrue(), "the game went on while the computer thought");
+    Require(IsThinking && GameData() == before, "the game went on while the computer thought");
     Require(&Top() == GameWindow && !Outline().isVisible(), "input reached the window");
     LookAtControls();
 }

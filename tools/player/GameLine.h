@@ -1,27 +1,42 @@
 #pragma once
 
+#include "core/StartPosition.h"
+#include "play/GameRecord.h"
+#include "play/GameState.h"
 #include "play/GameView.h"
-#include "tests/Snapshot.h"
 
+#include <tuple>
 #include <vector>
 
 /// The game being played, entry by entry. All operations leave the game itself as it is, and fail
 /// at the first fault.
 namespace brastel {
 
+/// All that an action can change.
+inline auto GameData() {
+    return std::tie(Pos, RedStart, BlueStart, PlayedFrom, PlayedTo, LoadedFrom, LoadedTo,
+                    LoadedCount, BranchMark, ForwardVisible, BackwardVisible, GameOver, Level);
+}
+
+/// A copy of it, to be compared with it or assigned to it.
+inline auto CopyOfGameData() {
+    return std::apply([](const auto&... part) { return std::tuple(part...); }, GameData());
+}
+using Snapshot = decltype(CopyOfGameData());
+
 /// As long as this lives, nothing is shown; then all is again as it was.
 class Aside {
 public:
     Aside() { SetView(nullptr); }
     ~Aside() {
-        Before.Restore();
+        GameData() = Before;
         SetView(Shows);
     }
     Aside(const Aside&) = delete;
     Aside& operator=(const Aside&) = delete;
 
 private:
-    Snapshot Before;
+    Snapshot Before = CopyOfGameData();
     GameView* Shows = View;
 };
 

@@ -59,7 +59,7 @@ void LookAtGame() {
 struct Doing {
     const Gesture Done;
     const Kind What = Done.What;
-    const Snapshot Before{};
+    const Snapshot Before = CopyOfGameData();
     const std::string Message = StatusLine();
     const int LevelBefore = Level;
     const int First = Pos.MoveCount;
@@ -121,7 +121,7 @@ struct Doing {
             Loaded.clear();
             Require(!std::exchange(ForwardVisible, true), "forward is offered but does not step");
         }
-        Require(Before.IsStillTrue(), "a refused action changed something");
+        Require(GameData() == Before, "a refused action changed something");
         if (endsWay) ForwardVisible = false;
         Require(StatusLine() == (IsPushBack ? PushBackText : Message),
                 "a refused action was announced wrongly");
@@ -199,7 +199,7 @@ struct Doing {
             return Require(PieceOn(Clicked) == Added, "a click did not add a piece");
         }
         const Int16 level = std::exchange(Level, ToInt16(LevelBefore));
-        Require(Before.IsStillTrue(), "more was changed");
+        Require(GameData() == Before, "more was changed");
         Level = level;
         Require(level == (What == Kind::LevelChoice ? Done.Number : LevelBefore), "a wrong level");
         if (What != Kind::Save) return;
