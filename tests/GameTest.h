@@ -104,7 +104,6 @@ protected:
             {"load", [](int) { LoadPlayedGame(), BeginLoadedGame(); }},
             {"new", [](int) { NewGameCommand(); }},
             {"offer", [](int) { ShowForward(true); }},
-            {"open", [](int) { OpenGame(); }},
             {"seed", [](int n) { SeedRandom(static_cast<unsigned>(n)); }}};
         const auto digit = std::min(command.find_first_of("0123456789"), command.size());
         const int number = std::atoi(command.c_str() + digit);
