@@ -13,14 +13,12 @@ namespace {
 
 using namespace brastel;
 
-constexpr std::string_view Usage =
-    "Usage: brastel-soak GAMES [SEED]\n"
-    "Plays GAMES games of random gestures, the first by the dice of SEED (1), the next by those "
-    "of\n"
-    "SEED + 1, and so on. Checks everything after each gesture. Prints how often everything\n"
-    "happened. Status 1 at the first fault, and if some kind of event never happened in 500 "
-    "games;\n"
-    "2 for bad arguments.\n";
+constexpr std::string_view Usage = R"(Usage: brastel-soak GAMES [SEED]
+Plays GAMES games of random gestures, the first by the dice of SEED (1), the next
+by those of SEED + 1, and so on. Checks everything after each gesture. Prints how
+often everything happened. Status 1 at the first fault, and if some kind of event
+never happened in 500 games; 2 for bad arguments.
+)";
 
 constexpr int GesturesOfGame = 150;
 constexpr std::int64_t EnoughGames = 500;
