@@ -4,6 +4,7 @@
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/GameView.h"
+#include "play/Stepping.h"
 
 #include <tuple>
 #include <vector>
