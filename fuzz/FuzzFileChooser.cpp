@@ -3,9 +3,9 @@
 
 #include "files/FileChooser.h"
 #include "fuzz/FuzzTarget.h"
-#include "tests/Sandbox.h"
-#include "tools/player/Headless.h"
-#include "tools/player/Require.h"
+#include "testing/Headless.h"
+#include "testing/Require.h"
+#include "testing/Sandbox.h"
 
 #include <algorithm>
 #include <fcntl.h>

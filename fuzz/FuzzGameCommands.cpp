@@ -2,14 +2,14 @@
 
 #include "core/StartPosition.h"
 #include "fuzz/FuzzTarget.h"
-#include "tools/player/Chance.h"
-#include "tools/player/Headless.h"
+#include "testing/Headless.h"
+#include "testing/RandomSource.h"
 
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brastel;
     if (size == 0) return 0;
     // Also draws that go beyond a byte reach to their end.
-    Chance = [=, next = std::size_t{0}]() mutable { return data[next++ % size] * 257U; };
+    RandomSource = [=, next = std::size_t{0}]() mutable { return data[next++ % size] * 257U; };
     StartProgram(Roll(LayoutCount));
     BeginPlaying();
     Play(std::clamp(static_cast<int>(size / 2), 50, 150));

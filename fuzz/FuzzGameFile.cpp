@@ -2,8 +2,8 @@
 /// saved, which must be the same game.
 
 #include "fuzz/FuzzTarget.h"
-#include "tools/player/Headless.h"
-#include "tools/player/Require.h"
+#include "testing/Headless.h"
+#include "testing/Require.h"
 
 namespace brastel {
 namespace {

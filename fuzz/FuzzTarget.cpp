@@ -1,6 +1,6 @@
 #include "fuzz/FuzzTarget.h"
 
-#include "tests/Sandbox.h"
+#include "testing/Sandbox.h"
 
 int LLVMFuzzerInitialize(int* /*count*/, char*** words) {
     brastel::EnterSandbox(*words);

@@ -2,7 +2,7 @@
 /// found are part of the ordinary tests, whatever the compiler.
 
 #include "fuzz/FuzzTarget.h"
-#include "tools/player/Headless.h"
+#include "testing/Headless.h"
 
 #include <filesystem>
 #include <iostream>

@@ -1,5 +1,5 @@
 #include "engine/Beam.h"
-#include "tests/ExpectedCandidates.h"
+#include "testing/ExpectedCandidates.h"
 #include "tests/PositionSource.h"
 
 #include <gtest/gtest.h>

@@ -1,5 +1,5 @@
 #include "engine/Evaluation.h"
-#include "tests/Positions.h"
+#include "testing/Positions.h"
 
 #include <gtest/gtest.h>
 

@@ -3,8 +3,8 @@
 #include "engine/Random.h"
 #include "engine/Search.h"
 #include "play/Hint.h"
-#include "tests/RandomPlay.h"
-#include "tests/ShownGame.h"
+#include "testing/RandomPlay.h"
+#include "testing/ShownGame.h"
 
 #include <gtest/gtest.h>
 

@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/Opening.h"
-#include "tests/RandomPlay.h"
+#include "testing/RandomPlay.h"
 
 #include <sstream>
 #include <utility>

@@ -2,7 +2,7 @@
 #include "core/PiecesOutside.h"
 #include "core/QuietMove.h"
 #include "core/WinTest.h"
-#include "tests/Positions.h"
+#include "testing/Positions.h"
 #include "tests/Rows.h"
 
 #include <cstdlib>

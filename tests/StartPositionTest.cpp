@@ -1,7 +1,7 @@
 #include "core/Consistency.h"
 #include "core/Opening.h"
 #include "core/StartPosition.h"
-#include "tests/Positions.h"
+#include "testing/Positions.h"
 
 #include <gtest/gtest.h>
 

@@ -1,4 +1,4 @@
-#include "tests/Sandbox.h"
+#include "testing/Sandbox.h"
 
 #include <QApplication>
 #include <QtGlobal>

@@ -4,7 +4,7 @@
 #include "engine/Strengths.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
-#include "tests/ShownPosition.h"
+#include "testing/ShownPosition.h"
 #include "tests/WindowTest.h"
 
 namespace brastel {

@@ -3,8 +3,8 @@
 #include "core/StartPosition.h"
 #include "engine/Strengths.h"
 #include "play/GameState.h"
-#include "tests/ShownGame.h"
-#include "tests/ShownPosition.h"
+#include "testing/ShownGame.h"
+#include "testing/ShownPosition.h"
 #include "ui/BoardView.h"
 #include "ui/KeyboardInput.h"
 

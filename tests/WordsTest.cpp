@@ -2,7 +2,7 @@
 #include "core/QuietMove.h"
 #include "core/StartPosition.h"
 #include "play/Words.h"
-#include "tests/Positions.h"
+#include "testing/Positions.h"
 #include "tests/Rows.h"
 
 #include <sstream>

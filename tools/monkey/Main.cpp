@@ -1,19 +1,19 @@
-/// Random deeds on the real window, offscreen, which must neither crash nor hang nor show anything
-/// but the position. The same seed gives the same events; they are printed as they come. Status 1
-/// after a failure, 77 where there can be no sandbox, SIGALRM after a minute in which the program
-/// does not go on, or a menu, dialog or drag not end.
+/// Sends random inputs to the real window, offscreen. It must neither crash nor hang nor show
+/// anything but the position. The same seed gives the same events, which are printed as they come.
+/// Ends with status 1 after a failure, with 77 where there can be no sandbox, and by SIGALRM after
+/// a minute in which the program does not go on or a menu, dialog or drag does not end.
 
 #include "engine/Random.h"
 #include "play/GameState.h"
-#include "tests/Sandbox.h"
+#include "testing/GameLine.h"
+#include "testing/GestureChecks.h"
+#include "testing/RandomSource.h"
+#include "testing/Require.h"
+#include "testing/Sandbox.h"
 #include "tools/ReadNumber.h"
-#include "tools/monkey/Deeds.h"
-#include "tools/monkey/Hands.h"
-#include "tools/monkey/Looks.h"
-#include "tools/player/Chance.h"
-#include "tools/player/GameLine.h"
-#include "tools/player/Require.h"
-#include "tools/player/Watch.h"
+#include "tools/monkey/Events.h"
+#include "tools/monkey/Inputs.h"
+#include "tools/monkey/WindowChecks.h"
 
 #include <QApplication>
 #include <QTest>
@@ -28,38 +28,37 @@ namespace brastel {
 
 namespace {
 
-/// Stronger ones only make the monkey wait; chosen by chance, they are set back.
+/// Stronger levels only make the run longer. One that was chosen at random is set back.
 constexpr int TopLevel = 2;
-constexpr int EventsBetweenCalms = 60;
-constexpr int MostDeedsInPause = 10;
+constexpr int InputsBetweenChecks = 60;
+constexpr int MostInputsInPause = 10;
 constexpr unsigned PatienceSeconds = 60;
 
-/// Where in the program events arrive, by the depth of its event loops and whether it thinks: a
-/// deed that opens a dialog or starts a search is still under way while others come in there.
-using Whereabouts = std::pair<int, bool>;
+/// The depth of the program's event loops, and whether the computer thinks. An input that opens a
+/// dialog or starts a search is not over yet when other inputs come in there.
+using LoopState = std::pair<int, bool>;
 
 std::int64_t LastEvent = 0;
 unsigned Seed = 0;
 int Number = 0;
-int DeedsInPause = 0;
-Whereabouts Here{0, false};
-bool IsCalming = false;
+int InputsInPause = 0;
+LoopState CurrentLoop{0, false};
+bool IsSettling = false;
 
-/// Every deed draws from dice of its own, made from the seed and the deed's number: how many fitted
-/// into a pause, part 1 and more, does not matter for those after it. The same goes for the
-/// computer's coin tosses.
+/// Seeds both random generators from the seed of the run and the number of the input. The inputs
+/// that fit into a pause (part 1 and more) differ from run to run, and must not change those after.
 void BeginEvent(int part) {
-    DeedsInPause = part;
-    Chance = Dice(Seed * 1000003U + static_cast<unsigned>(Number * 64 + part));
-    SeedRandom(static_cast<std::uint32_t>(Chance()));
+    InputsInPause = part;
+    RandomSource = Dice(Seed * 1000003U + static_cast<unsigned>(Number * 64 + part));
+    SeedRandom(static_cast<std::uint32_t>(RandomSource()));
     EventName = std::to_string(Number) + (part > 0 ? " while thinking: " : ": ");
 }
 
-// ---- Calming down: now and then everything is left and looked at ----
+// ---- Settling: now and then everything is closed, and the window is checked ----
 
-/// Lets go, leaves what is open, and takes the keyboard back. A drag goes on here only if its
-/// release was lost on the way. False when there is nothing to do.
-bool DoCalmingThing() {
+/// Releases a button, closes a dialog, or takes the keyboard back. A drag can only go on here if
+/// its release was lost on the way. False when there is nothing to do.
+bool CloseSomething() {
     const unsigned held = QTestPrivate::qtestMouseButtons.toInt();
     QWidget& top = Top();
     QWindow* window = top.windowHandle();
@@ -73,7 +72,7 @@ bool DoCalmingThing() {
     return isDragging;
 }
 
-/// Commands come after the event that gives them, and the keyboard changes hands even later.
+/// Commands run after the event that gives them, and the keyboard focus changes even later.
 void AwaitCommands() {
     QCoreApplication::processEvents();
     const auto isDone = [] {
@@ -84,61 +83,61 @@ void AwaitCommands() {
 }
 
 /// A gesture of the common list, with the common checks.
-void PlayCarefully() {
+void PlayCheckedGesture() {
     Gesture gesture = DrawGesture();
     if (Level > TopLevel) gesture = {Kind::LevelChoice, {}, {}, 0, 0, Roll(TopLevel + 1)};
-    const Deed deed = DeedOf(gesture);
-    if (!deed) return;
+    const InputSequence inputs = InputsOf(gesture);
+    if (!inputs) return;
     BeginWatching();
-    const auto look = Watch(gesture);
-    deed();
+    const auto check = Watch(gesture);
+    inputs();
     AwaitCommands();
-    look();
+    check();
 }
 
-void CalmDown() {
+void Settle() {
     AwaitCommands();
-    const bool isBusyBelow = Here.first > 1;
-    if (DoCalmingThing() || isBusyBelow) return;
-    IsCalming = false;
-    LookAtRest();
-    LookAtPicture();
+    const bool isBusyBelow = CurrentLoop.first > 1;
+    if (CloseSomething() || isBusyBelow) return;
+    IsSettling = false;
+    CheckRest();
+    CheckPicture();
     std::filesystem::current_path(GamesFolder);
-    Level <= TopLevel&& Number >= LastEvent ? Close() : PlayCarefully();
+    if (Level <= TopLevel && Number >= LastEvent) return Close();
+    PlayCheckedGesture();
 }
 
-// ---- The course of things ----
+// ---- When inputs come ----
 
 void ActHere() {
     ++Number;
     BeginEvent(0);
-    if (Level > TopLevel || Number >= LastEvent || OneIn(EventsBetweenCalms)) IsCalming = true;
-    if (!IsCalming) alarm(PatienceSeconds);
-    IsCalming ? CalmDown() : DoAnything();
+    if (Level > TopLevel || Number >= LastEvent || OneIn(InputsBetweenChecks)) IsSettling = true;
+    if (!IsSettling) alarm(PatienceSeconds);
+    IsSettling ? Settle() : SendAnything();
     if (GameWindow->IsClosing()) return;
-    LookAtControls();
-    if (OneIn(20)) LookAtPicture();
+    CheckControls();
+    if (OneIn(20)) CheckPicture();
 }
 
 void ActWhileThinking() {
-    if (DeedsInPause == MostDeedsInPause) return;
+    if (InputsInPause == MostInputsInPause) return;
     const Snapshot before = CopyOfGameData();
-    BeginEvent(DeedsInPause + 1);
-    DoAnything();
+    BeginEvent(InputsInPause + 1);
+    SendAnything();
     Require(IsThinking && GameData() == before, "the game went on while the computer thought");
     Require(&Top() == GameWindow && !Outline().isVisible(), "input reached the window");
-    LookAtControls();
+    CheckControls();
 }
 
-/// Called again and again, inside dialogs, menus and the pause before a search, too, and while an
-/// event is handled: if no dialog and no search has begun meanwhile, that is not yet the time for
-/// another one.
+/// Called again and again, also inside dialogs, menus and the pause before a search. While an input
+/// is handled, another one is sent only if a dialog or a search has begun meanwhile.
 void Tick() try {
-    const Whereabouts place{QThread::currentThread()->loopLevel(), IsThinking};
-    if (place == Here || GameWindow->IsClosing()) return;
-    const Whereabouts before = std::exchange(Here, place);
+    const LoopState place{QThread::currentThread()->loopLevel(), IsThinking};
+    if (place == CurrentLoop || GameWindow->IsClosing()) return;
+    const LoopState before = std::exchange(CurrentLoop, place);
     IsThinking ? ActWhileThinking() : ActHere();
-    Here = before;
+    CurrentLoop = before;
 } catch (const std::exception& fault) {
     std::cerr << "FAILED: " << fault.what() << std::endl;
     std::_Exit(EXIT_FAILURE);
@@ -163,10 +162,10 @@ void PlayMonkey() {
         GameWindow = &window;
         window.OpenMainWindow();
         RememberWindow();
-        IsCalming = false;
+        IsSettling = false;
         timer.start(0);
         QApplication::exec();
-        LookAtEnd();
+        CheckEnd();
     }
     OtherWindow = nullptr;
 }
@@ -180,7 +179,7 @@ int main(int count, char** texts) {
     constexpr std::int64_t Plenty = 1'000'000'000;
     const auto events = ReadNumber(count == 2 || count == 3 ? texts[1] : "", 0, Plenty);
     const auto seed = ReadNumber(count == 3 ? texts[2] : "1", 0, Plenty);
-    if (!events || !seed) return std::cerr << "Usage: window_monkey DEEDS [SEED]\n", 2;
+    if (!events || !seed) return std::cerr << "Usage: window_monkey INPUTS [SEED]\n", 2;
     EnterSandbox(texts);
     // It saves games anywhere.
     if (!IsInSandbox()) return std::cerr << "Skipped: this system allows no sandbox.\n", 77;
@@ -196,5 +195,5 @@ int main(int count, char** texts) {
     const QApplication application(oneName, texts);
     QApplication::setQuitOnLastWindowClosed(false);
     PlayMonkey();
-    std::cout << Number << " deeds, seed " << Seed << "\n";
+    std::cout << Number << " inputs, seed " << Seed << "\n";
 }

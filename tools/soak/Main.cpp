@@ -1,11 +1,11 @@
 /// Plays very many games by dice and checks everything after every gesture.
 
 #include "core/StartPosition.h"
-#include "tests/Positions.h"
+#include "testing/Headless.h"
+#include "testing/Positions.h"
+#include "testing/RandomSource.h"
+#include "testing/Require.h"
 #include "tools/ReadNumber.h"
-#include "tools/player/Chance.h"
-#include "tools/player/Headless.h"
-#include "tools/player/Require.h"
 
 #include <iostream>
 
@@ -24,7 +24,7 @@ constexpr int GesturesOfGame = 150;
 constexpr std::int64_t EnoughGames = 500;
 
 void PlayGame(std::int64_t seed) try {
-    Chance = Dice(static_cast<unsigned>(seed));
+    RandomSource = Dice(static_cast<unsigned>(seed));
     StartProgram(static_cast<int>(seed % LayoutCount));
     BeginPlaying();
     Play(GesturesOfGame);

@@ -1,8 +1,8 @@
 #pragma once
 
 #include "files/FileView.h"
-#include "tests/ShownGame.h"
-#include "tools/player/Gestures.h"
+#include "testing/Gestures.h"
+#include "testing/ShownGame.h"
 
 #include <string>
 

@@ -1,4 +1,4 @@
-#include "tests/Positions.h"
+#include "testing/Positions.h"
 
 #include <cctype>
 #include <sstream>

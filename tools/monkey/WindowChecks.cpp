@@ -1,10 +1,10 @@
-#include "tools/monkey/Looks.h"
+#include "tools/monkey/WindowChecks.h"
 
 #include "play/GameState.h"
 #include "play/Stepping.h"
-#include "tests/ShownPosition.h"
-#include "tools/monkey/Hands.h"
-#include "tools/player/Require.h"
+#include "testing/Require.h"
+#include "testing/ShownPosition.h"
+#include "tools/monkey/Events.h"
 #include "ui/KeyboardInput.h"
 
 #include <QApplication>
@@ -51,7 +51,7 @@ void RememberWindow() {
 }
 
 /// While the window is away, a game is read from a file, and nothing need fit.
-void LookAtControls() {
+void CheckControls() {
     if (!GameWindow->isVisible()) return;
     Require(IsShown("btn_Forward") == ForwardVisible, "Forward is not as the game has it");
     Require(IsShown("btn_Backward") == BackwardVisible, "Backward is not as the game has it");
@@ -63,7 +63,7 @@ void LookAtControls() {
     Require((QApplication::overrideCursor() != nullptr) == IsThinking, "the busy cursor");
 }
 
-void LookAtPicture() {
+void CheckPicture() {
     std::string wrong;
     const auto isRight = [&] {
         return !IsPositionSeen() || (wrong = FirstWrongShown(Screenshot())).empty();
@@ -71,7 +71,7 @@ void LookAtPicture() {
     Require(QTest::qWaitFor(isRight), "the window does not show the position: " + wrong);
 }
 
-void LookAtRest() {
+void CheckRest() {
     Require(GameWindow->isVisible(), "the window is away, and no dialog is there");
     Require(GameWindow->size() == SizeAtFirst, "the window has another size");
     const qsizetype widgets = QApplication::allWidgets().size();
@@ -79,7 +79,7 @@ void LookAtRest() {
             std::to_string(WidgetsAtFirst) + " widgets became " + std::to_string(widgets));
 }
 
-void LookAtEnd() {
+void CheckEnd() {
     Require(GameWindow->IsClosing() && !GameWindow->isVisible(), "the program ended by itself");
     Require(!IsThinking && QApplication::overrideCursor() == nullptr, "the computer still thinks");
     Require(QApplication::activeModalWidget() == nullptr, "the program ended under a dialog");

@@ -3,7 +3,7 @@
 #include "core/QuietMove.h"
 #include "core/StartPosition.h"
 #include "engine/Candidates.h"
-#include "tests/Positions.h"
+#include "testing/Positions.h"
 
 #include <random>
 

@@ -1,17 +1,17 @@
 #pragma once
 
-#include "tests/RandomPlay.h"
+#include "testing/RandomPlay.h"
 
 #include <functional>
 
 namespace brastel {
 
-/// Where all that happens by chance is drawn from: dice, or the bytes of a fuzzer. One draw in a
-/// statement: compilers order the parts of one differently.
-inline std::function<unsigned()> Chance;
+/// Gives all random numbers: dice, or the bytes of a fuzzer. Draw only once in a statement, since
+/// compilers evaluate the parts of one in different orders.
+inline std::function<unsigned()> RandomSource;
 
 /// 0 to n - 1.
-inline int Roll(int n) { return Below(Chance, n); }
+inline int Roll(int n) { return Below(RandomSource, n); }
 inline bool OneIn(int n) { return Roll(n) == 0; }
 
 template <typename List>

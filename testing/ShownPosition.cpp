@@ -1,4 +1,4 @@
-#include "tests/ShownPosition.h"
+#include "testing/ShownPosition.h"
 
 #include "core/Position.h"
 

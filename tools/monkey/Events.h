@@ -34,7 +34,7 @@ void Type(int key, Qt::KeyboardModifiers modifiers = {}, const QString& text = {
 
 void Activate(QWindow* window);
 /// Resizes, moves, minimizes or shows the window. Resizing is refused by every one.
-void Shake(int how, QPoint by);
+void ChangeWindow(int how, QPoint by);
 void Close();
 
 }  // namespace brastel

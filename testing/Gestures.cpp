@@ -1,11 +1,11 @@
-#include "tools/player/Gestures.h"
+#include "testing/Gestures.h"
 
 #include "core/Opening.h"
 #include "core/PiecesOutside.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/Stepping.h"
-#include "tools/player/Chance.h"
+#include "testing/RandomSource.h"
 
 namespace brastel {
 
@@ -70,7 +70,7 @@ Gesture Act() {
     if (InFreeSetup()) return SetUp();
     if (!BothRingsPlaced()) return {Kind::DoubleClick, {Pos.SideToMove, ToInt16(1 + Roll(8))}};
     GenerateMoves(1);
-    const auto [from, to] = DrawAction(Chance);
+    const auto [from, to] = DrawAction(RandomSource);
     return from == NoSquare ? Gesture{Kind::Hint} : DropOnSquare(from, to);
 }
 

@@ -8,7 +8,7 @@
 
 namespace brastel {
 
-/// True in the sandbox of tests/in_sandbox.
+/// True in the sandbox of testing/in_sandbox.
 inline bool IsInSandbox() {
     const char* mark = std::getenv("BRASTEL_SANDBOX");
     return mark != nullptr && mark == std::filesystem::read_symlink("/proc/self/ns/mnt");

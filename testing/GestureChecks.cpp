@@ -1,13 +1,13 @@
-#include "tools/player/Watch.h"
+#include "testing/GestureChecks.h"
 
 #include "core/Hit.h"
 #include "core/Opening.h"
 #include "core/WinTest.h"
 #include "engine/Strengths.h"
 #include "play/Stepping.h"
-#include "tests/RandomPlay.h"
-#include "tools/player/GameLine.h"
-#include "tools/player/Require.h"
+#include "testing/GameLine.h"
+#include "testing/RandomPlay.h"
+#include "testing/Require.h"
 
 #include <memory>
 #include <utility>
@@ -35,14 +35,14 @@ Int16 WinnerIn(const Position& position) {
 
 /// The way forward must be offered just as long as no action of a person's own left the loaded
 /// game.
-void LookAtForward() {
+void CheckForward() {
     if (Loaded.size() < 2) return;
     if (Line.size() <= LeftAt) LeftAt = Loaded.size();
     const bool goesOn = LeftAt == Loaded.size() && Line.size() < Loaded.size();
     Require(ForwardVisible == goesOn, "the way forward is offered wrongly");
 }
 
-void LookAtGame() {
+void CheckGame() {
     // A game stepped back to the start forgets these, and no rule reads them any more.
     if (BothRingsPlaced()) Pos.RedPlaced = Pos.BluePlaced = 0;
     RequireConsistent();
@@ -51,12 +51,12 @@ void LookAtGame() {
     if (Line.empty()) BeginLine();
     Require(Pos == Line.back(), "the game stands elsewhere than its entries lead");
     Require(static_cast<int>(Line.size()) == Pos.MoveCount, "entries are missing");
-    LookAtForward();
+    CheckForward();
     Count("full records", IsRecordFull());
 }
 
 /// A gesture, from before it is done until it is over.
-struct Doing {
+struct GestureCheck {
     const Gesture Done;
     const Kind What = Done.What;
     const Snapshot Before = CopyOfGameData();
@@ -100,22 +100,22 @@ struct Doing {
         return What != Kind::LevelChoice || (Done.Number >= 0 && Done.Number <= MaxPly);
     }
 
-    void Look() const {
+    void Run() const {
         Require(IsThinking == WasThinking, "the game still thinks");
         if (!IsAllowed) {
-            LookAtRefusal();
+            CheckRefusal();
         } else if (What <= Kind::Forward) {
-            LookAtEntries();
+            CheckEntries();
         } else if (What <= Kind::Close) {
-            LookAtSmallChange();
+            CheckSmallChange();
         } else {
-            LookAtOtherGame();
+            CheckOtherGame();
         }
-        if (!IsThinking && !View->IsClosing()) LookAtGame();
+        if (!IsThinking && !View->IsClosing()) CheckGame();
     }
 
     /// Only the message may be another, and the way forward end where it cannot be gone.
-    void LookAtRefusal() const {
+    void CheckRefusal() const {
         const bool endsWay = What == Kind::Forward && !IsThinking;
         if (endsWay) {
             Loaded.clear();
@@ -137,7 +137,7 @@ struct Doing {
                after.MoveCount <= MaxEntries;
     }
 
-    void LookAtEntries() const {
+    void CheckEntries() const {
         const bool isByPerson = What == Kind::Drop || What == Kind::DoubleClick;
         const bool isBegun = What != Kind::Hint || !View->IsClosing();
         const bool announcesWin = What != Kind::DoubleClick;
@@ -162,7 +162,7 @@ struct Doing {
         Count("steps forward");
     }
 
-    void LookAtOtherGame() const {
+    void CheckOtherGame() const {
         const bool isOpened = What == Kind::PieceNumber || What == Kind::Load;
         const int entries = What == Kind::Backward ? std::max(First - 2, 0) : 0;
         Require(Pos.MoveCount == 1 + entries, "another game begins elsewhere");
@@ -170,12 +170,12 @@ struct Doing {
         Require(GameOver == False && StatusLine() == BlankText, "another game is won");
         Require(ForwardVisible == (What == Kind::Load) || What == Kind::Backward,
                 "a new game goes forward");
-        if (What == Kind::Backward) return LookAtStepBack();
+        if (What == Kind::Backward) return CheckStepBack();
         BeginWatching(false);
-        if (What == Kind::Load) LookAtLoad();
+        if (What == Kind::Load) CheckLoad();
     }
 
-    static void LookAtStepBack() {
+    static void CheckStepBack() {
         Count("steps back");
         if (Line.size() < 2) return;
         Line.pop_back();
@@ -183,7 +183,7 @@ struct Doing {
         Require(Pos == Line.back(), "a step back leads elsewhere than the game");
     }
 
-    void LookAtLoad() const {
+    void CheckLoad() const {
         const SavedGame& saved = Saved.at(Done.Number);
         Require(LoadedCount == saved.Entries, "a saved game has another length");
         Loaded = saved.Line;
@@ -193,7 +193,7 @@ struct Doing {
     }
 
     /// What is done changes at most one thing.
-    void LookAtSmallChange() const {
+    void CheckSmallChange() const {
         Require(StatusLine() == Message && Pos.MoveCount == First, "more was done");
         if (What == Kind::Click) {
             return Require(PieceOn(Clicked) == Added, "a click did not add a piece");
@@ -213,11 +213,11 @@ void BeginWatching(bool forgets) {
     if (forgets) Saved.clear();
     Line.clear();
     Loaded.clear();
-    LookAtGame();
+    CheckGame();
 }
 
 std::function<void()> Watch(const Gesture& gesture) {
-    return [doing = std::make_shared<const Doing>(Doing{gesture})] { doing->Look(); };
+    return [check = std::make_shared<const GestureCheck>(GestureCheck{gesture})] { check->Run(); };
 }
 
 bool IsPossible(const Gesture& gesture) {

@@ -1,4 +1,4 @@
-#include "tools/monkey/Hands.h"
+#include "tools/monkey/Events.h"
 
 #include <QApplication>
 #include <QPointer>
@@ -65,9 +65,9 @@ void Activate(QWindow* window) {
     if (Reaches(window, "activate")) window->requestActivate();
 }
 
-void Shake(int how, QPoint by) {
+void ChangeWindow(int how, QPoint by) {
     QWidget& top = Top();
-    if (!Reaches(top.windowHandle(), QString("shake %1").arg(how))) return;
+    if (!Reaches(top.windowHandle(), QString("change %1").arg(how))) return;
     if (top.windowType() == Qt::Popup) return;
     if (how == 0) top.resize(by.x(), by.y());
     if (how == 1) top.move(by);

@@ -1,7 +1,7 @@
-#include "tools/monkey/Deeds.h"
+#include "tools/monkey/Inputs.h"
 
-#include "tools/monkey/Hands.h"
-#include "tools/player/Chance.h"
+#include "testing/RandomSource.h"
+#include "tools/monkey/Events.h"
 
 #include <QLineEdit>
 #include <QMenuBar>
@@ -58,9 +58,9 @@ QPoint AnyPlace() {
     return part->mapTo(&top, OneIn(3) ? part->rect().center() : AnyIn(part->rect()));
 }
 
-// ---- Parts of deeds ----
+// ---- Parts of inputs ----
 
-/// The place may come to lie in another window on the way.
+/// A click can open or close a window: the next one goes to the window that is then on top.
 void Click(QPoint place, int count = 1, Qt::MouseButton button = Qt::LeftButton) {
     for (int n = 0; n < count; ++n) {
         Press(place, button, n > 0);
@@ -81,13 +81,13 @@ void Choose(const char* name, QAction* item) {
     Click(menu->actionGeometry(item).center());
 }
 
-// ---- Deeds ----
+// ---- Inputs ----
 
 void PlayGesture() {
-    if (const Deed deed = DeedOf(DrawGesture())) deed();
+    if (const InputSequence inputs = InputsOf(DrawGesture())) inputs();
 }
 
-/// Some users are impatient.
+/// Now and then many times.
 void ClickAnywhere() {
     const QPoint place = AnyPlace();
     const Qt::MouseButton button = AnyOf(Buttons);
@@ -120,10 +120,10 @@ void TypeName() {
     Type(Qt::Key_Return);
 }
 
-/// Mostly a dialog is closed: a new main window is a new game.
+/// Closes dialogs more often than the main window, since a new main window begins a new game.
 void ManageWindow() {
     const int how = Roll(7);
-    if (how < 4) Shake(how, AnyIn({-500, -500, 2000, 2000}));
+    if (how < 4) ChangeWindow(how, AnyIn({-500, -500, 2000, 2000}));
     if (how == 4) Activate(OtherWindow);
     if (how == 5) Activate(Top().windowHandle());
     if (how == 6 && (&Top() != GameWindow || OneIn(4))) Close();
@@ -149,9 +149,9 @@ constexpr std::array Rows{
 
 }  // namespace
 
-void DoAnything() { DrawWeighted(Rows).Do(); }
+void SendAnything() { DrawWeighted(Rows).Do(); }
 
-Deed DeedOf(const Gesture& gesture) {
+InputSequence InputsOf(const Gesture& gesture) {
     const auto& [what, actor, target, x, y, number] = gesture;
     const int from = SquareOf(actor);
     const QPoint to = target ? Centre(SquareOf(target)) : InWindow({x, y});

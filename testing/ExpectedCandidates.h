@@ -2,7 +2,7 @@
 
 #include "core/WinTest.h"
 #include "engine/Candidates.h"
-#include "tests/RandomPlay.h"
+#include "testing/RandomPlay.h"
 
 #include <cstdlib>
 #include <tuple>

@@ -1,4 +1,4 @@
-#include "tools/player/GameLine.h"
+#include "testing/GameLine.h"
 
 #include "core/Consistency.h"
 #include "core/Hit.h"
@@ -7,9 +7,9 @@
 #include "engine/Search.h"
 #include "play/DisplayedMove.h"
 #include "play/HumanAction.h"
-#include "tests/ExpectedCandidates.h"
-#include "tests/ShownGame.h"
-#include "tools/player/Require.h"
+#include "testing/ExpectedCandidates.h"
+#include "testing/Require.h"
+#include "testing/ShownGame.h"
 
 namespace brastel {
 

@@ -1,14 +1,14 @@
-#include "tools/player/Headless.h"
+#include "testing/Headless.h"
 
 #include "core/StartPosition.h"
 #include "engine/Random.h"
 #include "files/GameFile.h"
 #include "play/Hint.h"
 #include "play/Stepping.h"
-#include "tools/player/Chance.h"
-#include "tools/player/GameLine.h"
-#include "tools/player/Require.h"
-#include "tools/player/Watch.h"
+#include "testing/GameLine.h"
+#include "testing/GestureChecks.h"
+#include "testing/RandomSource.h"
+#include "testing/Require.h"
 
 #include <fstream>
 #include <iterator>
@@ -48,14 +48,14 @@ void Do(const Gesture& gesture) {
 /// window. They are drawn from dice of their own, so that a fuzzer's bytes keep their meaning.
 void ActWhileThinking() {
     static Dice meanwhile;
-    const auto chance = std::exchange(Chance, std::ref(meanwhile));
+    const auto chance = std::exchange(RandomSource, std::ref(meanwhile));
     for (int n = 0; n < 3; ++n) {
         const Gesture gesture = DrawGesture();
-        const auto look = Watch(gesture);
+        const auto check = Watch(gesture);
         Do(gesture);
-        look();
+        check();
     }
-    Chance = chance;
+    RandomSource = chance;
     Shown.Closing = ClosesNext;
 }
 
@@ -64,10 +64,10 @@ void PlayOne() {
     if (!IsPossible(gesture)) return;
     // A new game seeds from the clock; the same draws must play the same game every time.
     SeedRandom(static_cast<unsigned>(Roll(256)));
-    const auto look = Watch(gesture);
+    const auto check = Watch(gesture);
     Do(gesture);
     if (gesture.What != Kind::Close) ClosesNext = false;
-    look();
+    check();
     // The program ended with its window.
     Count("closings while the computer thought", Shown.Closing);
     if (Shown.Closing) BeginPlaying();
