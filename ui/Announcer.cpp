@@ -15,8 +15,8 @@ namespace {
 
 constexpr auto RetryAfter = std::chrono::milliseconds(50);
 
-/// What led from one position to the present one, in words; empty if nothing did.
-QString NewsSince(const Position& before) {
+/// The change from a position to the present one in words. Empty if they are equal.
+QString ChangeSince(const Position& before) {
     if (before == Pos) return {};
     if (Pos.MoveCount == 1 && Pos.RedPlaced == 0) {
         return InFreeSetup() ? "At the start, the board is empty" : "At the start";
@@ -30,39 +30,38 @@ QString NewsSince(const Position& before) {
 
 Announcer::Announcer(QWidget* boardView) : QObject(boardView), Form(boardView) {
     Timer.setSingleShot(true);
-    Timer.callOnTimeout(this, &Announcer::Speak);
+    Timer.callOnTimeout(this, &Announcer::Announce);
     for (int square = FirstSquare; square <= LastSquare; ++square) {
         Contents[square] = ContentInWords(square);
     }
 }
 
 void Announcer::Say(const QString& text) {
-    Messages.append(text);
+    NewTexts.append(text);
     Timer.start(0);
 }
 
 void Announcer::FollowPosition() { Timer.start(0); }
 
-void Announcer::TellChangedSquares() {
+void Announcer::NotifyChangedSquares() {
     for (int square = FirstSquare; square <= LastSquare; ++square) {
         std::string content = ContentInWords(square);
         if (content == Contents[square]) continue;
         Contents[square] = std::move(content);
-        TellSquareChanged(*Form, square);
+        NotifySquareChanged(*Form, square);
     }
 }
 
-/// Called when an action is over, with its entry and the turn, not in the middle of it. While the
-/// computer thinks nobody could ask for the text, so it waits for the computer's answer.
-void Announcer::Speak() {
-    const QString news = NewsSince(std::exchange(Known, Pos));
-    if (!news.isEmpty()) Texts.append(news);
-    Texts.append(std::exchange(Messages, {}));
+/// The timer calls this when an action is complete, with its entry and the turn. While the computer
+/// thinks, a screen reader cannot ask for the text, so the text waits for the computer's answer.
+void Announcer::Announce() {
+    const QString change = ChangeSince(std::exchange(LastPosition, Pos));
+    if (!change.isEmpty()) Texts.append(change);
+    Texts.append(std::exchange(NewTexts, {}));
     if (IsThinking) return Timer.start(RetryAfter);
     if (Texts.isEmpty()) return;
-    Current = std::exchange(Texts, {}).join(". ");
-    TellChangedSquares();
-    TellAnnouncement(*Form);
+    NotifyChangedSquares();
+    NotifyAnnouncement(*Form, std::exchange(Texts, {}).join(". "));
 }
 
 }  // namespace brastel

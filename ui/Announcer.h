@@ -10,34 +10,31 @@
 
 namespace brastel {
 
-/// Says in words what a player who does not see the board would miss. What comes together is read
-/// out together. Without assistive technology nobody hears it.
+/// Announces changes of the position, and other texts, to screen readers. Texts that come in one
+/// event are announced together. Without a screen reader nothing is heard.
 class Announcer : public QObject {
     Q_OBJECT
 
 public:
     explicit Announcer(QWidget* boardView);
 
-    /// What was read out last.
-    const QString& Text() const { return Current; }
-
-    /// Reads the text out when the program next waits for events and the computer does not think.
+    /// Announces the text when the program next waits for events and the computer does not think.
     void Say(const QString& text);
-    /// Says then, too, and before, what has become of the position.
+    /// Announces the change of the position at that time, before the texts of Say.
     void FollowPosition();
 
 private:
-    void TellChangedSquares();
-    void Speak();
+    void NotifyChangedSquares();
+    void Announce();
 
     QWidget* const Form;
-    Position Known;
+    Position LastPosition;
     Table<std::string, FirstSquare, LastSquare> Contents;
-    /// Said since the position was last looked at, and all that waits to be read out.
-    QStringList Messages;
+    /// Texts of Say since LastPosition was taken.
+    QStringList NewTexts;
+    /// All texts that wait, in the order in which they are announced.
     QStringList Texts;
     QTimer Timer;
-    QString Current;
 };
 
 }  // namespace brastel

@@ -1,7 +1,6 @@
 #include "ui/BoardAccessible.h"
 
 #include "play/Words.h"
-#include "ui/Announcer.h"
 #include "ui/BoardView.h"
 #include "ui/Command.h"
 #include "ui/KeyboardInput.h"
@@ -25,7 +24,7 @@ constexpr int BlueTurnChild = RedTurnChild + 1;
 constexpr int AnnouncementChild = BlueTurnChild + 1;
 constexpr int PartCount = AnnouncementChild + 1;
 
-/// Something that the view shows, or says, without a widget of its own.
+/// A part of the view that has no widget of its own.
 class BoardPart : public QAccessibleInterface {
 public:
     explicit BoardPart(BoardView* view) : View(view) {}
@@ -60,7 +59,7 @@ protected:
     const QPointer<BoardView> View;
 };
 
-/// A button, because it can be pressed like one.
+/// A square of the board. Its role is that of a button, because it can be pressed.
 class SquarePart final : public BoardPart, public QAccessibleActionInterface {
 public:
     SquarePart(BoardView* view, int square) : BoardPart(view), Square(square) {}
@@ -94,7 +93,8 @@ public:
         if (name == pressAction()) return {"Space"};
         return name == RingAction ? QStringList("R") : QStringList();
     }
-    /// The caller waits for this to end, so it does not wait for the computer's answer.
+    /// The action runs later: the caller waits until this function returns, and the computer's
+    /// answer can take long.
     void doAction(const QString& name) override {
         const bool isPress = name == pressAction();
         const bool isRing = name == RingAction;
@@ -140,20 +140,24 @@ private:
     const Int16 Side;
 };
 
-/// Screen readers read a notification out when it appears.
+/// The text announced last. Screen readers read a notification when it appears.
 class AnnouncementPart final : public BoardPart {
 public:
     using BoardPart::BoardPart;
+    void SetText(const QString& text) { Text = text; }
 
     QAccessible::Role role() const override { return QAccessible::Notification; }
     QAccessible::State state() const override { return {}; }
 
 protected:
     QRect Place() const override { return {}; }
-    QString Name() const override { return View->findChild<Announcer*>()->Text(); }
+    QString Name() const override { return Text; }
+
+private:
+    QString Text;
 };
 
-/// The view itself: its parts, then its controls.
+/// The view itself. Its children are its parts, then its controls.
 class BoardInterface final : public QAccessibleWidget {
 public:
     explicit BoardInterface(BoardView* view)
@@ -223,9 +227,12 @@ QAccessibleInterface* NewBoardInterface(const QString& /*key*/, QObject* object)
     return view == nullptr ? nullptr : new BoardInterface(view);
 }
 
-void Tell(QWidget& boardView, int child, QAccessible::Event what) {
-    QAccessibleInterface* board = QAccessible::queryAccessibleInterface(&boardView);
-    QAccessibleEvent event(board->child(child), what);
+QAccessibleInterface* Child(QWidget& boardView, int index) {
+    return QAccessible::queryAccessibleInterface(&boardView)->child(index);
+}
+
+void Notify(QAccessibleInterface* part, QAccessible::Event what) {
+    QAccessibleEvent event(part, what);
     QAccessible::updateAccessibility(&event);
 }
 
@@ -233,22 +240,24 @@ void Tell(QWidget& boardView, int child, QAccessible::Event what) {
 
 void InstallBoardAccessible() { QAccessible::installFactory(NewBoardInterface); }
 
-void TellSquareChanged(QWidget& boardView, int square) {
-    Tell(boardView, square - FirstSquare, QAccessible::NameChanged);
+void NotifySquareChanged(QWidget& boardView, int square) {
+    Notify(Child(boardView, square - FirstSquare), QAccessible::NameChanged);
 }
 
-void TellSquareFocused(QWidget& boardView, int square) {
-    Tell(boardView, square - FirstSquare, QAccessible::Focus);
+void NotifySquareFocused(QWidget& boardView, int square) {
+    Notify(Child(boardView, square - FirstSquare), QAccessible::Focus);
 }
 
-void TellTurnChanged(QWidget& boardView) {
-    Tell(boardView, RedTurnChild, QAccessible::NameChanged);
-    Tell(boardView, BlueTurnChild, QAccessible::NameChanged);
+void NotifyTurnChanged(QWidget& boardView) {
+    Notify(Child(boardView, RedTurnChild), QAccessible::NameChanged);
+    Notify(Child(boardView, BlueTurnChild), QAccessible::NameChanged);
 }
 
-void TellAnnouncement(QWidget& boardView) {
-    Tell(boardView, AnnouncementChild, QAccessible::NameChanged);
-    Tell(boardView, AnnouncementChild, QAccessible::ObjectShow);
+void NotifyAnnouncement(QWidget& boardView, const QString& text) {
+    auto* part = static_cast<AnnouncementPart*>(Child(boardView, AnnouncementChild));
+    part->SetText(text);
+    Notify(part, QAccessible::NameChanged);
+    Notify(part, QAccessible::ObjectShow);
 }
 
 }  // namespace brastel

@@ -9,14 +9,11 @@
 #include "ui/BoardAccessible.h"
 #include "ui/BoardView.h"
 #include "ui/Command.h"
-#include "ui/FileDialog.h"
 #include "ui/Icon.h"
 #include "ui/KeyboardInput.h"
 #include "ui/Layout.h"
 #include "ui/Menus.h"
 #include "ui/MouseInput.h"
-#include "ui/PieceNumberDialog.h"
-#include "ui/RulesWindow.h"
 
 #include <QApplication>
 #include <QCloseEvent>
@@ -62,7 +59,7 @@ bool IsUserInput(QEvent::Type type) {
     }
 }
 
-/// Screen readers read the tool tip, too.
+/// Screen readers read the tool tip as the description of the button.
 QPushButton* NewButton(QWidget* parent, const QString& name, const QString& caption,
                        const TwipRect& place, const QString& help = {}) {
     auto* button = new QPushButton(caption, parent);
@@ -145,9 +142,9 @@ void MainWindow::BuildHiddenControls() {
     FillHidden(Text2, hidden, "Text2_");
 }
 
-/// The menu bar's room is a multiple of 4 logical pixels, which are whole device pixels at ratios
-/// of quarters: the board below then begins on a whole one. The spare pixels lie above the bar: a
-/// bar that is higher than its items has a broken line below them.
+/// The room of the menu bar is a multiple of 4 logical pixels. At device pixel ratios such as 1.25
+/// it is then a whole number of device pixels, and so the board below begins at a whole one. The
+/// spare pixels are above the bar: a bar higher than its items has a broken line below them.
 void MainWindow::FixSize() {
     const int height = menuBar()->sizeHint().height();
     const int room = (height + 3) / 4 * 4;
@@ -156,14 +153,14 @@ void MainWindow::FixSize() {
 }
 
 void MainWindow::ConnectInput() {
-    Voice = new Announcer(Form);
+    Announcements = new Announcer(Form);
     Mouse = new MouseInput(Form);
     Keyboard = new KeyboardInput(Form, Mouse);
     ConnectGestures(*Mouse);
     ConnectGestures(*Keyboard);
     connect(Keyboard, &KeyboardInput::FocusMoved, this,
-            [this](int square) { TellSquareFocused(*Form, square); });
-    connect(Keyboard, &KeyboardInput::Told, Voice, &Announcer::Say);
+            [this](int square) { NotifySquareFocused(*Form, square); });
+    connect(Keyboard, &KeyboardInput::Told, Announcements, &Announcer::Say);
     const std::pair<QPushButton*, void (*)()> commands[] = {
         {btn_Forward, StepForward}, {btn_Backward, StepBack}, {btn_Hint, Hint}};
     for (const auto& [button, command] : commands) {
@@ -186,37 +183,14 @@ void MainWindow::OpenMainWindow() {
     show();
 }
 
-bool MainWindow::RunFileDialog(ChooserMode mode) {
-    FileDialog dialog(mode);
-    dialog.exec();
-    if (dialog.WasClosedByBox()) close();
-    return !dialog.WasClosedByBox();
-}
-
-void MainWindow::LoadGameCommand() {
-    if (RunFileDialog(ChooserMode::Open)) BeginLoadedGame();
-}
-
-void MainWindow::SaveGameCommand() { RunFileDialog(ChooserMode::Save); }
-
-void MainWindow::RulesCommand() { RulesWindow().exec(); }
-
-void MainWindow::ChangePieceNumberCommand() {
-    CloseMainWindow();
-    PieceNumberDialog().exec();
-    OpenMainWindow();
-}
-
-void MainWindow::ExitCommand() { close(); }
-
 void MainWindow::PlacePieces() {
-    LetGo();
+    EndGestures();
     Form->update();
-    Voice->FollowPosition();
+    Announcements->FollowPosition();
 }
 
-/// A piece that is held may no longer be there, or no longer be the one that was meant.
-void MainWindow::LetGo() {
+/// Ends every gesture: its piece may be gone, or another piece may be on its square.
+void MainWindow::EndGestures() {
     Mouse->Cancel();
     Keyboard->Release();
 }
@@ -226,28 +200,28 @@ void MainWindow::ShowMessage(std::string_view text) {
     const QString words = shown.trimmed();
     lbl_Message->setAccessibleName("Status line: " + (words.isEmpty() ? "empty" : words));
     lbl_Message->setText(shown);
-    // It would be read out when the thinking is over.
-    if (!words.isEmpty() && text != ThinkingText) Voice->Say(words);
+    // ThinkingText would be announced only when the computer has finished thinking.
+    if (!words.isEmpty() && text != ThinkingText) Announcements->Say(words);
 }
 
 void MainWindow::ShowTurn(Int16 side) {
     Form->ShowTurn(side);
     Mouse->ShowCursor();
-    TellTurnChanged(*Form);
+    NotifyTurnChanged(*Form);
 }
 
 void MainWindow::Beep() { QApplication::beep(); }
 
 void MainWindow::TellRefusal(std::string_view why) {
-    Voice->Say(QString::fromUtf8(why.data(), static_cast<qsizetype>(why.size())));
+    Announcements->Say(QString::fromUtf8(why.data(), static_cast<qsizetype>(why.size())));
 }
 
 void MainWindow::ShowForward(bool visible) { ShowStepButton(*btn_Forward, visible); }
 
 void MainWindow::ShowBackward(bool visible) { ShowStepButton(*btn_Backward, visible); }
 
-/// A button that is hidden gives the keyboard to the board. Qt would hand it on to the next button,
-/// and a player who steps back with the space bar would suddenly play hints.
+/// A hidden button gives the keyboard focus to the board. Qt would give it to the next button: a
+/// player who steps back with the space bar would then play hints.
 void MainWindow::ShowStepButton(QPushButton& button, bool visible) {
     if (!visible && button.hasFocus()) Form->setFocus();
     button.setVisible(visible);
@@ -255,7 +229,7 @@ void MainWindow::ShowStepButton(QPushButton& button, bool visible) {
 
 void MainWindow::ShowBusy(bool busy) {
     if (busy) {
-        LetGo();
+        EndGestures();
         QApplication::setOverrideCursor(Qt::WaitCursor);
     } else {
         QApplication::restoreOverrideCursor();
@@ -294,9 +268,9 @@ std::string MainWindow::DocumentsFolder() const {
     return (QFileInfo(documents).isWritable() ? documents : QDir::homePath()).toStdString();
 }
 
-/// Also in the middle of a computer move: closed during the pause before the search, the window
-/// goes at once and no search is begun; during the search itself, when it is over. Either way the
-/// move is not played, and the program ends when the event loop is reached.
+/// May come in the middle of a computer move. During the pause before the search, the window closes
+/// at once and no search begins. During the search, it closes when the search is over. In both cases
+/// the move is not played, and the program ends when control returns to the event loop.
 void MainWindow::closeEvent(QCloseEvent* event) {
     Closing = true;
     event->accept();

@@ -1,6 +1,5 @@
 #pragma once
 
-#include "files/FileChooser.h"
 #include "files/FileView.h"
 #include "play/GameView.h"
 
@@ -19,27 +18,13 @@ class BoardView;
 class KeyboardInput;
 class MouseInput;
 
-/// frm_Tamber, the program's one working window, and the view that the game and the file commands
-/// speak to while it lives.
+/// frm_Tamber, the main window. While it exists it is the view of the game and of the file commands.
 class MainWindow final : public QMainWindow, public GameView, public FileView {
 public:
     MainWindow();
     ~MainWindow() override;
     MainWindow(const MainWindow&) = delete;
     MainWindow& operator=(const MainWindow&) = delete;
-
-    /// Shows the window as new: centred, a new game with the pieces and layout in force, lowest
-    /// strength.
-    void OpenMainWindow() override;
-
-    // ---- Menu commands that open windows ----
-    void LoadGameCommand();
-    void SaveGameCommand();
-    void RulesCommand();
-    /// Takes the window down, lets the user choose a layout, and opens it again.
-    void ChangePieceNumberCommand();
-    /// Closes the window, which ends the program.
-    void ExitCommand();
 
     // ---- GameView ----
     void PlacePieces() override;
@@ -57,13 +42,15 @@ public:
 
     // ---- FileView ----
     void CloseMainWindow() override;
+    /// Shows the window centred, with a new game of the current start layout at the lowest strength.
+    void OpenMainWindow() override;
     bool AskYesOrNo(const std::string& text, const std::string& title) override;
     void ShowWarning(const std::string& text, const std::string& title) override;
     std::string DocumentsFolder() const override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
-    /// Drops what the user does while the computer thinks, wherever in the program it arrives.
+    /// Ignores all input, in every window of the program, while the computer thinks.
     bool eventFilter(QObject* watched, QEvent* event) override;
 
 private:
@@ -72,16 +59,14 @@ private:
     void BuildHiddenControls();
     void FixSize();
     void ConnectInput();
-    void LetGo();
+    void EndGestures();
     void ConnectGestures(const BoardInput& input);
     void ShowStepButton(QPushButton& button, bool visible);
-    /// Runs the file dialog; closing it by its close box closes this window, too. False then.
-    bool RunFileDialog(ChooserMode mode);
 
     BoardView* Form = nullptr;
     MouseInput* Mouse = nullptr;
     KeyboardInput* Keyboard = nullptr;
-    Announcer* Voice = nullptr;
+    Announcer* Announcements = nullptr;
     QMenu* Levels = nullptr;
     bool Closing = false;
 
@@ -89,9 +74,9 @@ private:
     QPushButton* btn_Backward = nullptr;
     QPushButton* btn_Hint = nullptr;
     QLabel* lbl_Message = nullptr;
-    /// Text boxes never seen: they mirror the cells and the candidate count, each in its property
-    /// "text". Real line edits would tell assistive technology of every text, seen or not, and
-    /// screen readers stop listening in such a flood.
+    /// Hidden text boxes. Their property "text" holds the cells and the candidate count. They are
+    /// not line edits: a hidden line edit still sends each change of its text to assistive
+    /// technology, and so many events make screen readers stop listening.
     std::array<QWidget*, 113> Text1{};
     std::array<QWidget*, 33> Text2{};
 };

@@ -1,11 +1,14 @@
 #include "ui/Menus.h"
 
 #include "engine/Strengths.h"
+#include "files/FileView.h"
 #include "play/GameState.h"
 #include "play/Stepping.h"
 #include "ui/Command.h"
+#include "ui/FileDialog.h"
 #include "ui/Layout.h"
-#include "ui/MainWindow.h"
+#include "ui/PieceNumberDialog.h"
+#include "ui/RulesWindow.h"
 
 #include <QMenuBar>
 
@@ -15,29 +18,57 @@ namespace brastel {
 
 namespace {
 
-/// One item; a separator has no command.
+// ---- Commands ----
+
+void NewGame(QWidget& /*window*/) { NewGameCommand(); }
+
+/// The close box of the dialog closes the main window, too. False then.
+bool RunFileDialog(QWidget& window, ChooserMode mode) {
+    FileDialog dialog(mode);
+    dialog.exec();
+    if (dialog.WasClosedByBox()) window.close();
+    return !dialog.WasClosedByBox();
+}
+
+void LoadGame(QWidget& window) {
+    if (RunFileDialog(window, ChooserMode::Open)) BeginLoadedGame();
+}
+
+void SaveGame(QWidget& window) { RunFileDialog(window, ChooserMode::Save); }
+
+void ChangePieceNumber(QWidget& /*window*/) {
+    FileWindows->CloseMainWindow();
+    PieceNumberDialog().exec();
+    FileWindows->OpenMainWindow();
+}
+
+/// Ends the program.
+void Exit(QWidget& window) { window.close(); }
+
+void Rules(QWidget& /*window*/) { RulesWindow().exec(); }
+
+// ---- Items ----
+
+/// A separator has no command.
 struct MenuItem {
     const char* Name;
     const char* Caption;
-    void (*Command)(MainWindow&);
+    void (*Command)(QWidget& window);
 };
 
 constexpr MenuItem OptionsItems[] = {
-    {"mnu_NewGame", "&New Game", [](MainWindow&) { NewGameCommand(); }},
-    {"mnuFileItem1", "&Load Game", [](MainWindow& window) { window.LoadGameCommand(); }},
-    {"mnuFileItem2", "&Save Game", [](MainWindow& window) { window.SaveGameCommand(); }},
+    {"mnu_NewGame", "&New Game", NewGame},
+    {"mnuFileItem1", "&Load Game", LoadGame},
+    {"mnuFileItem2", "&Save Game", SaveGame},
     {"mnu_SizeSep", "-", nullptr},
-    {"mnu_GameSize", "&Change Piece Number",
-     [](MainWindow& window) { window.ChangePieceNumberCommand(); }},
+    {"mnu_GameSize", "&Change Piece Number", ChangePieceNumber},
     {"mnu_ExitSep", "-", nullptr},
-    {"mnu_Exit", "E&xit", [](MainWindow& window) { window.ExitCommand(); }},
+    {"mnu_Exit", "E&xit", Exit},
 };
 
-constexpr MenuItem HelpItems[] = {
-    {"mnu_Rules", "&Rules", [](MainWindow& window) { window.RulesCommand(); }},
-};
+constexpr MenuItem HelpItems[] = {{"mnu_Rules", "&Rules", Rules}};
 
-QMenu* AddMenu(MainWindow& window, const char* name, const char* caption) {
+QMenu* AddMenu(QMainWindow& window, const char* name, const char* caption) {
     QMenu* menu = window.menuBar()->addMenu(caption);
     menu->setObjectName(name);
     return menu;
@@ -45,7 +76,7 @@ QMenu* AddMenu(MainWindow& window, const char* name, const char* caption) {
 
 void AddSeparator(QMenu& menu, const char* name) { menu.addSeparator()->setObjectName(name); }
 
-void AddItems(QMenu& menu, MainWindow& window, std::span<const MenuItem> items) {
+void AddItems(QMenu& menu, QMainWindow& window, std::span<const MenuItem> items) {
     for (const MenuItem& item : items) {
         if (item.Command == nullptr) {
             AddSeparator(menu, item.Name);
@@ -79,8 +110,8 @@ void AddLevels(QMenu& levels) {
 
 }  // namespace
 
-QMenu* BuildMenus(MainWindow& window) {
-    // In the window on every desktop: its height belongs to the window's.
+QMenu* BuildMenus(QMainWindow& window) {
+    // Inside the window on every desktop: the size of the window includes the menu bar.
     window.menuBar()->setNativeMenuBar(false);
     window.menuBar()->setPalette(QPalette(WindowGround));
     AddItems(*AddMenu(window, "mnu_Options", "&Options"), window, OptionsItems);
@@ -90,8 +121,8 @@ QMenu* BuildMenus(MainWindow& window) {
     return levels;
 }
 
-/// An exclusive group of actions would show bullets instead of check marks, and checkable items
-/// that are not checked would show empty boxes, as if one could check several.
+/// Not an exclusive group of actions: Qt draws bullets for these. Only the chosen item is checkable:
+/// Qt draws empty boxes for checkable items, as if several could be checked.
 void CheckLevel(const QMenu& levels, Int16 level) {
     for (QAction* action : levels.actions()) {
         const bool isChosen = action->data() == level;
