@@ -21,7 +21,7 @@ struct Stop {
     QRgb Color;
 };
 
-/// An ellipse of light or shade, turned about its centre, whose gradient runs from the centre (0)
+/// An ellipse of light or shadow, rotated about its centre. Its gradient runs from the centre (0)
 /// to the outline (1).
 struct Spot {
     QPointF Centre;
@@ -37,8 +37,8 @@ struct Glass {
     std::array<Stop, 5> Caustic;
 };
 
-// The body is flat at the main colour around the centre, and every other layer stays clear of
-// that disc, so the middle of a bead has its pure colour at any size.
+// Around the centre the body has the main colour only, and no other layer covers this disc: the
+// middle of a bead has exactly its main colour at any size.
 constexpr Glass MagentaGlass = {
     {{{0.00, qRgb(255, 7, 255)},
       {0.40, qRgb(255, 7, 255)},
@@ -98,8 +98,8 @@ constexpr Spot Caustic = {{53.5, 64.5}, 23.5, 11.5, -25};
 constexpr Spot Halo = {{31.0, 28.0}, 14.0, 10.0, -42};
 constexpr Spot Glint = {{30.5, 27.0}, 7.6, 4.6, -42};
 
-// The light comes from the upper left and gathers at the lower right, so the glass looks deepest
-// away from that gathering point.
+// The light comes from the upper left and is focused at the lower right. The glass looks deepest
+// far from this focus.
 constexpr QPointF DepthCentre(49.0, 52.5);
 constexpr qreal DepthRadius = 48.5;
 
@@ -147,7 +147,7 @@ void PaintBead(QPainter& painter, int side) {
 }
 
 QPixmap BeadPicture(int side, int size, qreal ratio) {
-    // Written so that a ratio that is not a number fails the test as well.
+    // A ratio that is not a number (NaN) fails this test, too.
     if (size < 1 || !(ratio > 0)) return {};
     const int edge = qMax(1, qRound(size * ratio));
     QPixmap picture(edge, edge);
@@ -156,7 +156,7 @@ QPixmap BeadPicture(int side, int size, qreal ratio) {
     painter.scale(edge / BeadEdge, edge / BeadEdge);
     PaintBead(painter, side);
     painter.end();
-    // Only now: while painting, one unit is to be one device pixel.
+    // Not earlier: while painting, one unit must be one device pixel.
     picture.setDevicePixelRatio(ratio);
     return picture;
 }

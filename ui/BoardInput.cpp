@@ -8,8 +8,8 @@ BoardInput::BoardInput(BoardView* view) : QObject(view), Form(view) {
     Form->installEventFilter(this);
 }
 
-/// Qt rounds the position in a widget, which can push it over the edge of a square. The position in
-/// the window is exact, but for the error of a division by the device pixel ratio.
+/// Qt rounds the position in a widget, so it can lie on the next square. The position in the window
+/// is exact except for the error of a division by the device pixel ratio.
 QPoint BoardInput::PixelOf(const QMouseEvent& event) const {
     constexpr QPointF DivisionError(1e-6, 1e-6);
     const QPointF point = Form->mapFrom(Form->window(), event.scenePosition() + DivisionError);

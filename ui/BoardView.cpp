@@ -19,13 +19,13 @@ namespace {
 constexpr int FieldLineWidth = 3;
 constexpr int CircleWidth = 5;
 
-struct Line {
+struct FieldLine {
     QPoint From;
     QPoint To;
 };
 
-/// line_Board: the centre line and the border, which leaves the goal mouths open.
-constexpr std::array<Line, 7> FieldLines{{
+/// line_Board: the centre line and the border, which is open at both goals.
+constexpr std::array<FieldLine, 7> FieldLines{{
     {{60, 300}, {300, 300}},
     {{60, 60}, {60, 540}},
     {{300, 60}, {300, 540}},
@@ -44,7 +44,7 @@ constexpr QRect BlueCircle = TwipRect{8760, 2760, 612, 612}.InPixels();
 /// Shape1.
 constexpr QRect MessageFrame = TwipRect{7440, 5160, 2532, 612}.InPixels();
 
-/// shp_board: neighbours share a line.
+/// shp_board: squares side by side share a line.
 QRect SquareOutline(int square) {
     return {SquareLeft(square), SquareTop(square), CellSize + 1, CellSize + 1};
 }
@@ -56,12 +56,12 @@ void PaintSquares(QPainter& painter) {
 }
 
 void PaintFieldLines(QPainter& painter) {
-    for (const Line& line : FieldLines) {
+    for (const FieldLine& line : FieldLines) {
         PaintSharpLine(painter, line.From, line.To, FieldLineWidth);
     }
 }
 
-/// A circle outline whose outer edge touches the rectangle from inside.
+/// A circle inside the rectangle. Its outer edge touches the sides.
 void PaintCircle(QPainter& painter, const QRect& rect) {
     constexpr qreal Half = CircleWidth / 2.0;
     painter.save();
@@ -72,7 +72,7 @@ void PaintCircle(QPainter& painter, const QRect& rect) {
     painter.restore();
 }
 
-/// shp_Ring, above the pieces: nothing else shows who carries a ring.
+/// shp_Ring, painted above the pieces: only a ring shows that a piece is a carrier.
 void PaintRings(QPainter& painter) {
     for (const Int16 square : Pos.RingSquare) {
         PaintCircle(painter, {SquareLeft(square), SquareTop(square), CellSize, CellSize});
@@ -95,9 +95,9 @@ void BoardView::ShowTurn(Int16 side) {
 
 QRect BoardView::TurnCircle(Int16 side) { return side == Red ? RedCircle : BlueCircle; }
 
-void BoardView::Show(int& mark, int square) {
-    if (mark == square) return;
-    mark = square;
+void BoardView::Mark(int& marked, int square) {
+    if (marked == square) return;
+    marked = square;
     update();
 }
 
@@ -154,10 +154,11 @@ void BoardView::PaintPieces(QPainter& painter) {
 
 void BoardView::PaintMarks(QPainter& painter) {
     if (Held != NoSquare) painter.fillRect(SquareOutline(Held), HeldTint);
-    if (Focus != NoSquare && hasFocus()) PaintMark(painter, SquareOutline(Focus));
+    if (Focus != NoSquare && hasFocus()) PaintFrame(painter, SquareOutline(Focus));
 }
 
-/// Lines lie above the pieces' grey ground, which would cut into them, and rings above the marks.
+/// Each part is painted above the parts before it. Lines come after pieces, because the
+/// grey background of a piece would cover them. Rings come after the marks.
 void BoardView::paintEvent(QPaintEvent* event) {
     QPainter painter(this);
     painter.fillRect(event->rect(), WindowGround);

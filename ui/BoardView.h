@@ -7,35 +7,33 @@
 
 namespace brastel {
 
-/// The inner area of the main window: paints the board with pieces and rings straight from the
-/// position, and the shapes of the side panel. View coordinates are its own logical pixels. The
-/// controls of the panel are its children.
+/// The inner area of the main window. It paints the board, pieces and rings from the position (Pos)
+/// and the shapes of the side panel. View coordinates are its logical pixels. The controls of the
+/// panel are its children.
 class BoardView : public QWidget {
     Q_OBJECT
 
 public:
     explicit BoardView(QWidget* parent);
 
-    /// Shows the turn circle of a side.
+    /// Shows the turn circle of this side and hides the other.
     void ShowTurn(Int16 side);
 
-    /// Place of a side's turn circle.
     static QRect TurnCircle(Int16 side);
     Int16 ShownTurn() const { return Turn; }
 
-    /// Frames the square that the keyboard points at, while the view has the keyboard; NoSquare for
-    /// none.
-    void ShowFocus(int square) { Show(Focus, square); }
-    /// Tints the square of the piece that is dragged or taken up; NoSquare for none.
-    void ShowHeld(int square) { Show(Held, square); }
+    /// Puts a frame around the square with the keyboard focus, while the view has the focus.
+    /// NoSquare for none.
+    void ShowFocus(int square) { Mark(Focus, square); }
+    /// Tints the square of the piece that is dragged or picked up. NoSquare for none.
+    void ShowHeld(int square) { Mark(Held, square); }
 
-    /// The piece whose picture lies under a point, or no piece.
+    /// The piece whose picture is under a point, or no piece.
     static Piece PieceAt(QPoint point);
 
-    /// What a click and a double-click on the board do; empty once both rings are placed.
+    /// What a click and a double-click on the board do. Empty when both rings are placed.
     static QString OpeningHelp();
-    /// What the tool tip of a point says, which belongs to a piece, the board or the turn circle;
-    /// empty if there is none.
+    /// The tool tip of a point on a piece, the board or the turn circle. Empty if there is none.
     QString HelpAt(QPoint point) const;
 
 protected:
@@ -43,7 +41,7 @@ protected:
     void paintEvent(QPaintEvent* event) override;
 
 private:
-    void Show(int& mark, int square);
+    void Mark(int& marked, int square);
     void PaintPieces(QPainter& painter);
     void PaintMarks(QPainter& painter);
     const QPixmap& BeadOf(int side);
@@ -51,7 +49,7 @@ private:
     Int16 Turn = Red;
     int Focus = NoSquare;
     int Held = NoSquare;
-    /// Red's and Blue's bead for the present device pixel ratio, drawn when first needed.
+    /// The beads for the current device pixel ratio, drawn when first needed.
     QPixmap RedBead;
     QPixmap BlueBead;
 };

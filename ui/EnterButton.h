@@ -5,8 +5,8 @@
 
 namespace brastel {
 
-/// A button that Enter presses while it has the focus, and only then. Qt lets Enter press the
-/// default button of a dialog instead, and a focused button only if it may become the default.
+/// A button that Enter presses only while it has the focus. In a dialog of Qt, Enter presses the
+/// default button instead, and a focused button only if it can become the default button.
 class EnterButton : public QPushButton {
 public:
     EnterButton(const QString& text, QWidget* parent) : QPushButton(text, parent) {

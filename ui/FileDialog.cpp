@@ -25,8 +25,8 @@ constexpr TwipRect OkPlace{4560, 780, 1095, 435};
 constexpr TwipRect CancelPlace{4560, 1320, 1095, 435};
 constexpr double Points = 9;
 
-/// Half-width katakana; the ampersand marks the access key of the control that the label names.
-/// Screen readers are given the English name.
+/// A label in half-width katakana. The ampersand marks the access key of the control beside it.
+/// Screen readers get the English name.
 struct LabelText {
     const char* Name;
     TwipRect Place;
@@ -42,8 +42,8 @@ constexpr QSize FolderIconSize(16, 16);
 constexpr int IndentPerLevel = 8;
 constexpr int DepthRole = Qt::UserRole;
 
-/// Indents a folder by its depth, and leaves half of the row to its name. Spaces in the text would
-/// hide the name from a search by its first letters.
+/// Indents a folder by its depth, by at most half of the row. With spaces in the text instead, the
+/// user could not find a folder by typing its first letters.
 class FolderDelegate : public QStyledItemDelegate {
 public:
     using QStyledItemDelegate::QStyledItemDelegate;
@@ -56,14 +56,14 @@ public:
     }
 };
 
-/// Names are bytes that need not be UTF-8; what is not is shown as well as it goes.
-QString Shown(const std::string& name) { return QString::fromStdString(name); }
+/// Names are bytes. Bytes that are not UTF-8 become replacement characters.
+QString DisplayText(const std::string& name) { return QString::fromStdString(name); }
 
 void AddLabel(QWidget* parent, const LabelText& label, QWidget* buddy) {
     auto* widget = new QLabel(label.Text, parent);
     PlaceControl(*widget, label.Name, label.Place);
     widget->setBuddy(buddy);
-    // Qt names a combo box after its label, so the label needs the English name, too.
+    // Qt takes the name of a combo box from its label, so the label needs the English name, too.
     widget->setAccessibleName(label.English);
     buddy->setAccessibleName(label.English);
 }
@@ -124,18 +124,18 @@ void FileDialog::ConnectControls() {
     cancel->setAccessibleName("Cancel");
     connect(ok, &QPushButton::clicked, this, [this] { Confirm(); });
     connect(cancel, &QPushButton::clicked, this, &QDialog::reject);
-    // What the box cannot show of a name's bytes is kept until it is edited.
+    // The name keeps bytes that the box cannot show until the user edits it.
     connect(txtOpenSave, &QLineEdit::textChanged, this, [](const QString& text) {
-        if (text != Shown(Chooser.NameBox)) Chooser.NameBox = text.toStdString();
+        if (text != DisplayText(Chooser.NameBox)) Chooser.NameBox = text.toStdString();
     });
-    // With the arrow keys, too.
+    // The arrow keys also send this.
     connect(filOpenSave, &QListWidget::currentRowChanged, this,
             [this](int row) { ShowClick(row); });
-    // The lists stay as they are here: refilled, they would not know the second click of a pair.
+    // This must not fill the lists again: they would then not recognise a double-click.
     connect(filOpenSave, &QListWidget::itemClicked, this,
             [this](QListWidgetItem* item) { ShowClick(filOpenSave->row(item)); });
     connect(filOpenSave, &QListWidget::itemDoubleClicked, this,
-            [this](QListWidgetItem* item) { After(ChooseFile(filOpenSave->row(item))); });
+            [this](QListWidgetItem* item) { CloseOrShow(ChooseFile(filOpenSave->row(item))); });
     connect(dirOpenSave, &QListWidget::itemDoubleClicked, this,
             [this](QListWidgetItem* item) { EnterRow(dirOpenSave->row(item)); });
     connect(drvOpenSave, &QComboBox::activated, this, [this](int drive) {
@@ -145,13 +145,13 @@ void FileDialog::ConnectControls() {
 }
 
 void FileDialog::ShowChooser() {
-    txtOpenSave->setText(Shown(Chooser.NameBox));
+    txtOpenSave->setText(DisplayText(Chooser.NameBox));
     filOpenSave->clear();
-    for (const std::string& file : Chooser.Files) filOpenSave->addItem(Shown(file));
-    // Without this call the list makes its first row current when it gets the focus.
+    for (const std::string& file : Chooser.Files) filOpenSave->addItem(DisplayText(file));
+    // Otherwise the list makes its first row current when it gets the focus.
     filOpenSave->setCurrentIndex({});
     drvOpenSave->clear();
-    for (const std::string& drive : Chooser.Drives) drvOpenSave->addItem(Shown(drive));
+    for (const std::string& drive : Chooser.Drives) drvOpenSave->addItem(DisplayText(drive));
     drvOpenSave->setCurrentIndex(Chooser.Drive);
     ShowFolders();
     ShowPath();
@@ -162,12 +162,12 @@ void FileDialog::ShowFolders() {
     dirOpenSave->clear();
     int current = 0;
     for (const FolderRow& row : Chooser.Folders) {
-        auto* item = new QListWidgetItem(icon, Shown(row.Name), dirOpenSave);
+        auto* item = new QListWidgetItem(icon, DisplayText(row.Name), dirOpenSave);
         item->setData(DepthRole, row.Depth);
         if (row.Path == Chooser.Folder) current = dirOpenSave->count() - 1;
     }
     dirOpenSave->setCurrentRow(current);
-    // The user goes on to the folder above the current one or to one in it.
+    // The parent folder stays visible above the current folder and the folders in it.
     dirOpenSave->scrollToItem(dirOpenSave->item(qMax(current - 1, 0)),
                               QAbstractItemView::PositionAtTop);
 }
@@ -179,19 +179,19 @@ void FileDialog::EnterRow(int row) {
 
 void FileDialog::ShowClick(int row) {
     ClickFile(row);
-    txtOpenSave->setText(Shown(Chooser.NameBox));
+    txtOpenSave->setText(DisplayText(Chooser.NameBox));
 }
 
-/// The end of a path tells more than its start.
+/// A path that is too long loses its start, because its end is more useful.
 void FileDialog::ShowPath() {
-    const QString path = Shown(Chooser.Folder);
+    const QString path = DisplayText(Chooser.Folder);
     lblPath->setText(lblPath->fontMetrics().elidedText(path, Qt::ElideLeft, lblPath->width()));
     lblPath->setAccessibleName("Current folder: " + path);
-    // Always rich text. Qt would otherwise guess the format from the name.
+    // Explicit rich text. Otherwise Qt guesses the format from the name.
     lblPath->setToolTip(Qt::convertFromPlainText(path));
 }
 
-void FileDialog::After(bool isDone) {
+void FileDialog::CloseOrShow(bool isDone) {
     if (isDone) {
         accept();
     } else {
@@ -200,14 +200,14 @@ void FileDialog::After(bool isDone) {
 }
 
 void FileDialog::Confirm() {
-    // Before a box asks about a file in another folder, the lists show that folder.
+    // If the file is in another folder, the lists show that folder before a box asks about it.
     if (GoToFile(std::string(Chooser.NameBox))) ShowChooser();
-    After(ConfirmName(std::string(Chooser.NameBox)));
+    CloseOrShow(ConfirmName(std::string(Chooser.NameBox)));
     txtOpenSave->setFocus();
     txtOpenSave->selectAll();
 }
 
-/// Enter is OK, but in the folder list it enters the folder.
+/// Enter opens a folder in the folder list. Elsewhere it is OK.
 void FileDialog::keyPressEvent(QKeyEvent* event) {
     const bool isEnter = event->key() == Qt::Key_Return || event->key() == Qt::Key_Enter;
     if (isEnter && dirOpenSave->hasFocus()) {
@@ -217,7 +217,7 @@ void FileDialog::keyPressEvent(QKeyEvent* event) {
     }
 }
 
-/// Reached by the close box only: Cancel, Esc and a finished choice do not send this.
+/// Only the close box causes this event. Cancel, Esc and a finished choice do not.
 void FileDialog::closeEvent(QCloseEvent* event) {
     ClosedByBox = true;
     QDialog::closeEvent(event);

@@ -10,12 +10,13 @@
 
 namespace brastel {
 
-/// frmOpenSave: shows the file chooser and hands it what the user does. Opened modally by exec().
+/// frmOpenSave: the window of the file chooser (files/FileChooser.h). It shows the state of the
+/// chooser and calls its operations. Opened modally by exec().
 class FileDialog : public QDialog {
 public:
     explicit FileDialog(ChooserMode mode);
 
-    /// True if the dialog was closed by its close box, which ends the whole program.
+    /// True if the user closed the dialog by its close box, which ends the whole program.
     bool WasClosedByBox() const { return ClosedByBox; }
 
 protected:
@@ -28,8 +29,8 @@ private:
     void ShowChooser();
     void ShowFolders();
     void ShowPath();
-    /// Shows what the chooser made of it, or closes the dialog.
-    void After(bool isDone);
+    /// Closes the dialog, or shows the new state of the chooser.
+    void CloseOrShow(bool isDone);
     void Confirm();
     void EnterRow(int row);
     void ShowClick(int row);

@@ -14,13 +14,13 @@
 namespace brastel {
 namespace {
 
-/// The measures of one pixmap, in pixels. They are no fixed shares of the size: a small icon needs
-/// a heavier ring for it to stay black, and discs that begin and end between two pixels.
+/// The measures of one pixmap in pixels. They are not proportional to the size: in a small icon the
+/// ring must be thicker to look black, and discs must begin and end between two pixels.
 struct Variant {
     int Size;
     qreal RingDiameter;
     qreal RingWidth;
-    qreal Gleam;
+    qreal RimWidth;
     qreal CyanDiameter;
 };
 
@@ -34,9 +34,9 @@ constexpr std::array<Variant, 7> Variants = {{
     {256, 192, 21.0, 2.5, 150},
 }};
 
-constexpr QColor Gleam(232, 232, 240, 160);
+constexpr QColor RimColor(232, 232, 240, 160);
 
-// The share of the size kept free at the right for the shadow of the cyan bead.
+// The part of the size that stays free at the right for the shadow of the cyan bead.
 constexpr qreal ShadowRoom = 0.012;
 
 struct Disc {
@@ -44,10 +44,11 @@ struct Disc {
     qreal Radius;
 };
 
-// The ring sits in the lower left corner, inside its gleam; the cyan bead in the upper right.
+// The ring is in the lower left corner, inside its rim, and the cyan bead in the upper right
+// corner.
 Disc RingDisc(const Variant& variant) {
     const qreal radius = variant.RingDiameter / 2;
-    const qreal inset = variant.Gleam + radius;
+    const qreal inset = variant.RimWidth + radius;
     return {{inset, variant.Size - inset}, radius};
 }
 
@@ -73,13 +74,13 @@ void PaintRing(QPainter& painter, const Disc& disc, qreal width, const QColor& c
     painter.drawEllipse(disc.Centre, radius, radius);
 }
 
-/// The gleam is a pale line around the ring, which would be lost on a dark ground without it; at
-/// the smallest size it would only blur the ring, so there its width is 0.
+/// The rim is a pale line around the ring. Without it the ring is invisible on a dark background.
+/// At the smallest size it would blur the ring, so its width is 0 there.
 void PaintCarrier(QPainter& painter, const Variant& variant) {
     const Disc ring = RingDisc(variant);
-    const Disc gleam = {ring.Centre, ring.Radius + variant.Gleam};
+    const Disc rim = {ring.Centre, ring.Radius + variant.RimWidth};
     const Disc bead = {ring.Centre, ring.Radius - variant.RingWidth / 3};
-    if (variant.Gleam > 0) PaintRing(painter, gleam, variant.Gleam + 0.5, Gleam);
+    if (variant.RimWidth > 0) PaintRing(painter, rim, variant.RimWidth + 0.5, RimColor);
     PaintBeadAt(painter, -1, bead);
     PaintRing(painter, ring, variant.RingWidth, Qt::black);
 }

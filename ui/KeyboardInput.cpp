@@ -15,12 +15,12 @@ namespace {
 
 struct Binding {
     int Key;
-    /// True if the key goes on while it is held down.
+    /// True if the key repeats while it is held down.
     bool Repeats;
     void (*Action)(KeyboardInput&);
 };
 
-/// Moves the focus one square, unless it stands at the edge.
+/// Moves the focus one square, unless it is at the edge.
 template <int Rows, int Columns>
 void Step(KeyboardInput& keyboard) {
     const int square = keyboard.FocusSquare();
@@ -39,7 +39,7 @@ constexpr Binding Bindings[] = {
     {Qt::Key_Space, false, Press},
     {Qt::Key_Select, false, Press},
     {Qt::Key_R, false, [](KeyboardInput& keyboard) { keyboard.DoubleClick(); }},
-    {Qt::Key_Escape, false, [](KeyboardInput& keyboard) { keyboard.LetGo(); }},
+    {Qt::Key_Escape, false, [](KeyboardInput& keyboard) { keyboard.PutBack(); }},
 };
 
 bool IsByKeyboard(Qt::FocusReason reason) {
@@ -52,7 +52,7 @@ QString PieceName(int square) { return QString::fromStdString(PieceInWords(Piece
 
 KeyboardInput::KeyboardInput(BoardView* view, MouseInput* mouse) : BoardInput(view), Mouse(mouse) {
     FocusTimer.setSingleShot(true);
-    FocusTimer.callOnTimeout(this, &KeyboardInput::TellFocus);
+    FocusTimer.callOnTimeout(this, &KeyboardInput::SendFocus);
 }
 
 bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
@@ -66,13 +66,13 @@ bool KeyboardInput::eventFilter(QObject* /*watched*/, QEvent* event) {
         case QEvent::FocusIn:
             if (IsByKeyboard(static_cast<QFocusEvent&>(*event).reason())) IsFocusShown = true;
             ShowFocus();
-            // After the toolkit has told that the view as a whole has the focus.
+            // After Qt has notified assistive technology that the whole view has the focus.
             FocusTimer.start(0);
             return false;
         case QEvent::FocusOut:
         case QEvent::WindowDeactivate:
         case QEvent::Hide:
-            LetGo();
+            PutBack();
             return false;
         default:
             return false;
@@ -88,7 +88,7 @@ bool KeyboardInput::Handle(const QKeyEvent& event) {
     if (binding == std::end(Bindings) || (event.modifiers() & Foreign)) return false;
     if (event.isAutoRepeat() && !binding->Repeats) return true;
     Mouse->Cancel();
-    // Escape may only end a drag of the mouse.
+    // Escape can also end a drag of the mouse, so it does not show the focus.
     if (event.key() != Qt::Key_Escape) IsFocusShown = true;
     binding->Action(*this);
     ShowFocus();
@@ -96,13 +96,13 @@ bool KeyboardInput::Handle(const QKeyEvent& event) {
 }
 
 void KeyboardInput::FollowMouse(QPoint point) {
-    LetGo();
+    PutBack();
     IsFocusShown = false;
     if (IsBoardPoint(point.x(), point.y())) FocusOn(SquareFromPoint(point.x(), point.y()));
     ShowFocus();
 }
 
-void KeyboardInput::TellFocus() {
+void KeyboardInput::SendFocus() {
     if (Form->hasFocus()) emit FocusMoved(Focus);
 }
 
@@ -114,13 +114,13 @@ void KeyboardInput::FocusOn(int square) {
     if (IsThinking || !IsOnBoard(square)) return;
     Focus = square;
     ShowFocus();
-    TellFocus();
+    SendFocus();
 }
 
 void KeyboardInput::Try(const std::function<void()>& gesture, const QString& failure) {
     const Position before = Pos;
     gesture();
-    if (Pos == before) emit Told(failure);
+    if (Pos == before) emit Announced(failure);
 }
 
 void KeyboardInput::Press() {
@@ -135,7 +135,7 @@ void KeyboardInput::Press() {
 void KeyboardInput::PickUp() {
     Held = Focus;
     Form->ShowHeld(Held);
-    emit Told(PieceName(Held) + " picked up");
+    emit Announced(PieceName(Held) + " picked up");
 }
 
 void KeyboardInput::DropHere() {
@@ -148,15 +148,15 @@ void KeyboardInput::DropHere() {
 void KeyboardInput::DoubleClick() {
     if (IsThinking) return;
     Mouse->Cancel();
-    LetGo();
+    PutBack();
     const Piece piece = PieceOn(Focus);
-    if (!piece) return emit Told("nothing here");
+    if (!piece) return emit Announced("nothing here");
     emit Piece_DblClick(piece);
 }
 
-void KeyboardInput::LetGo() {
+void KeyboardInput::PutBack() {
     if (Held == NoSquare) return;
-    emit Told(PieceName(Held) + " put back");
+    emit Announced(PieceName(Held) + " put back");
     Release();
 }
 

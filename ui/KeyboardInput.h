@@ -13,36 +13,37 @@ namespace brastel {
 
 class MouseInput;
 
-/// Turns what the keyboard does on the board view into the same gestures that the mouse makes. The
-/// arrow keys move the focus over the squares; Enter or Space takes up the piece there, drops the
-/// one that is held, or clicks the empty square; Escape puts it back; R double-clicks the piece.
-/// The focus is marked from the first key on until the mouse is used again. Whatever else takes the
-/// keyboard away from the view makes it let go.
+/// Turns keys on the board view into the same gestures as those of the mouse. The arrow keys move
+/// the focus over the squares. Enter or Space picks up the piece on the focus square, drops the
+/// piece that is held, or clicks the empty square. Escape puts the held piece back. R double-clicks
+/// the piece. The focus square has a frame from the first key until the mouse is used. When the
+/// view loses the keyboard focus, the held piece is put back.
 class KeyboardInput : public BoardInput {
     Q_OBJECT
 
 public:
-    /// A key ends what the mouse has begun, and the other way round.
+    /// A key ends a gesture of the mouse, and a mouse button puts the held piece back.
     KeyboardInput(BoardView* view, MouseInput* mouse);
 
     int FocusSquare() const { return Focus; }
-    /// Where the piece stands that is held, NoSquare while none is.
+    /// The square of the held piece, NoSquare if none is held.
     int HeldSquare() const { return Held; }
 
-    // ---- What the keys do, for assistive technology, too; nothing while the computer thinks ----
-    /// Moves the focus to a square of the board; any other number is ignored.
+    // ---- What keys and assistive technology do. Nothing happens while the computer thinks. ----
+    /// Moves the focus to a square of the board. Other numbers are ignored.
     void FocusOn(int square);
     void Press();
     void DoubleClick();
-    void LetGo();
+    /// Puts the held piece back and announces it.
+    void PutBack();
 
-    /// Lets go without a word, for a change of the board that is told itself.
+    /// Puts the held piece back without an announcement, when a change of the board is announced.
     void Release();
 
 signals:
     void FocusMoved(int square);
-    /// Something to be read out that changes nothing on the board.
-    void Told(const QString& text);
+    /// A text for screen readers about a gesture that changes nothing on the board.
+    void Announced(const QString& text);
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override;
@@ -50,16 +51,17 @@ protected:
 private:
     bool Handle(const QKeyEvent& event);
     void FollowMouse(QPoint point);
-    void TellFocus();
+    void SendFocus();
     void ShowFocus();
     void PickUp();
     void DropHere();
     QPoint FocusCorner() const;
-    /// Makes a gesture, and tells if nothing came of it: who does not see the board would wait.
+    /// Makes a gesture. Announces `failure` if the position does not change: otherwise a player who
+    /// does not see the board would wait.
     void Try(const std::function<void()>& gesture, const QString& failure);
 
     MouseInput* const Mouse;
-    /// It begins in the middle of Red's side, where Red has a piece in most layouts.
+    /// At first in the middle of Red's side: Red has a piece there in most layouts.
     int Focus = SquareAt(8, 3);
     bool IsFocusShown = false;
     int Held = NoSquare;

@@ -12,25 +12,27 @@ namespace brastel {
 
 namespace {
 
-/// What the window manager's frame adds to the size of a window, as seen last.
-std::optional<QSize> FrameSeen;
+/// What the frame of the window manager adds to the size of a window. Measured at the last window.
+std::optional<QSize> FrameSize;
 
-/// Where a window's frame begins when it stands in the middle of its screen.
+/// The top left corner of the frame when the window is in the middle of its screen.
 QPoint MiddlePlace(const QWidget& window) {
     const QRect whole = window.screen()->geometry();
     const QRect usable = window.screen()->availableGeometry();
     const QSize guess(0, window.style()->pixelMetric(QStyle::PM_TitleBarHeight));
-    const QSize size = window.size() + FrameSeen.value_or(guess);
+    const QSize size = window.size() + FrameSize.value_or(guess);
     const QPoint corner((whole.left() + whole.right() + 1 - size.width()) / 2,
                         (whole.top() + whole.bottom() + 1 - size.height()) / 2);
     return {qMax(corner.x(), usable.left()), qMax(corner.y(), usable.top())};
 }
 
-/// Moves a window to the middle once more when it is first painted. Only then its frame is known; a
-/// user cannot have moved it before.
-class FrameWatch : public QObject {
+/// Moves a window to the middle again when it is first painted. Its frame is not known earlier, and
+/// the user cannot move the window earlier.
+class FirstPaintFilter : public QObject {
 public:
-    explicit FrameWatch(QWidget* window) : QObject(window) { window->installEventFilter(this); }
+    explicit FirstPaintFilter(QWidget* window) : QObject(window) {
+        window->installEventFilter(this);
+    }
 
 protected:
     bool eventFilter(QObject* watched, QEvent* event) override {
@@ -39,8 +41,8 @@ protected:
         window.removeEventFilter(this);
         deleteLater();
         const QMargins frame = window.windowHandle()->frameMargins();
-        FrameSeen = QSize(frame.left() + frame.right(), frame.top() + frame.bottom());
-        // QWidget::move would use a frame size that is out of date after a rebuild.
+        FrameSize = QSize(frame.left() + frame.right(), frame.top() + frame.bottom());
+        // QWidget::move uses an old frame size if the window was hidden and shown again.
         window.windowHandle()->setPosition(MiddlePlace(window) + QPoint(frame.left(), frame.top()));
         return false;
     }
@@ -68,7 +70,7 @@ void FixInnerArea(QWidget& window, int widthTwips, int heightTwips, int extraHei
 
 void CentreOnScreen(QWidget& window) {
     window.move(MiddlePlace(window));
-    new FrameWatch(&window);
+    new FirstPaintFilter(&window);
 }
 
 void PlaceControl(QWidget& control, const QString& name, const TwipRect& place) {

@@ -6,19 +6,19 @@
 #include <QRect>
 #include <QWidget>
 
-/// Places and sizes of windows and controls. They are laid out in twips (1/1440 inch) for 120 dots
-/// per inch, where 12 twips make one logical pixel; board and controls so scale together.
+/// Places and sizes of windows and controls. They are given in twips (1/1440 inch). The layout is
+/// for 120 dots per inch, so 12 twips are one logical pixel, and board and controls scale together.
 namespace brastel {
 
-/// The one grey of the windows, on which beads are drawn.
+/// The grey background of the windows and of the beads.
 constexpr QColor WindowGround(192, 192, 192);
 
 constexpr int TwipsPerPixel = 12;
 
-/// Twips to logical pixels, rounded. For lengths and places inside a window, none negative.
+/// Twips to logical pixels, rounded. The number must not be negative.
 constexpr int Pixels(int twips) { return (twips + TwipsPerPixel / 2) / TwipsPerPixel; }
 
-/// A place in twips; corner and size are rounded by themselves.
+/// A rectangle in twips. Corner and size are rounded separately.
 struct TwipRect {
     int Left;
     int Top;
@@ -30,14 +30,14 @@ struct TwipRect {
     }
 };
 
-/// Point sizes are meant for 120 dots per inch, too.
+/// Points to logical pixels at 120 dots per inch.
 constexpr int FontPixels(double points) { return qRound(points * 120 / 72); }
 
-/// The platform's Japanese proportional gothic font in this size. Other fonts lack half-width
-/// katakana.
+/// A Japanese proportional gothic font of this size. Other fonts have no half-width katakana.
 QFont JapaneseFont(double points);
 
-/// The palette with the windows' grey as ground and black text on it, whatever the desktop's theme.
+/// The palette with a grey background and black text. The theme of the desktop does not change
+/// them.
 QPalette GreyPalette(QPalette palette);
 
 /// Frame of a dialog: title and close box, no resizing.
@@ -45,18 +45,18 @@ constexpr Qt::WindowFlags FixedDialogFlags = Qt::Dialog | Qt::MSWindowsFixedSize
                                              Qt::CustomizeWindowHint | Qt::WindowTitleHint |
                                              Qt::WindowCloseButtonHint;
 
-/// Makes the window's inner area exactly this large, in twips, with no resizing; `extraHeight`
-/// logical pixels are added, for a menu bar.
+/// Fixes the inner area of the window at this size in twips, plus `extraHeight` logical pixels for
+/// a menu bar.
 void FixInnerArea(QWidget& window, int widthTwips, int heightTwips, int extraHeight = 0);
 
-/// Puts a window of known size, about to be shown, into the middle of its screen, frame included;
-/// one that is larger than the screen keeps its title bar and menu on it.
+/// Puts a window of known size, before it is shown, in the middle of its screen, frame included. If
+/// the window is larger than the screen, its title bar and menu stay on the screen.
 void CentreOnScreen(QWidget& window);
 
-/// Names a control and puts it at its place.
+/// Sets the name and the place of a control.
 void PlaceControl(QWidget& control, const QString& name, const TwipRect& place);
 
-/// Makes the label's font as much smaller as its text needs to fit its width.
+/// Makes the font of the label smaller until its text fits its width, down to 9 pixels.
 void ShrinkTextToFit(QLabel& label);
 
 }  // namespace brastel

@@ -1,3 +1,5 @@
+/// The program `brastel`.
+
 #include "ui/MainWindow.h"
 
 #include <QApplication>
@@ -17,14 +19,14 @@ namespace {
 
 [[noreturn]] void EndWithoutMemory() { End("Brastel: there is no memory left\n"); }
 
-/// Ends the program if there is less memory than it needs to open its window, about 45 MB: some
-/// libraries crash where they get none.
+/// Ends the program if there is less memory than it needs to open its window (about 45 MB). Without
+/// this, some libraries crash when they get no memory.
 void RequireMemory() {
     constexpr std::size_t Enough = std::size_t{64} << 20;
     ::operator delete(::operator new(Enough));
 }
 
-/// Qt throws std::bad_alloc of its own accord, where nobody catches it.
+/// Qt itself throws std::bad_alloc in places where nothing can catch it.
 [[noreturn]] void EndUncaught() {
     try {
         if (std::current_exception()) throw;
@@ -35,12 +37,13 @@ void RequireMemory() {
     std::abort();
 }
 
-/// Qt's own handler, once Qt has started.
+/// The handler of Qt. Null until Qt has started.
 QtMessageHandler UsualHandler = nullptr;
 
-/// If Qt cannot start, mostly because there is no display, it would print several lines and abort
-/// with a core dump; here it prints the last warning, which tells why, and the first line of the
-/// final message. Without memory, it would go on with a window that shows nothing or never opens.
+/// Qt cannot start without a display. By itself it then prints several lines and aborts with a core
+/// dump. Here it prints the last warning, which gives the cause, and the first line of its final
+/// message. Without memory, Qt goes on with a window that is empty or never opens, so the program
+/// ends here.
 void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QString& message) {
     static QByteArray reason;
     if (message.contains("out of memory")) EndWithoutMemory();
@@ -54,21 +57,21 @@ void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
 }  // namespace
 
 int main(int /*argc*/, char* argv[]) {
-    // Writing to a broken pipe or past a size limit is an error to report, not the end.
+    // A write to a broken pipe or beyond a size limit then fails and does not end the program.
     std::signal(SIGPIPE, SIG_IGN);
     std::signal(SIGXFSZ, SIG_IGN);
     std::set_new_handler(EndWithoutMemory);
     std::set_terminate(EndUncaught);
     RequireMemory();
-    // No argument reaches the toolkit: the program knows no options.
+    // Qt gets no arguments, because the program has no options.
     int count = 1;
     char* name[] = {argv[0], nullptr};
     const QtMessageHandler usual = qInstallMessageHandler(HandleMessage);
     const QApplication application(count, name);
     UsualHandler = usual;
-    // By this name docks find the desktop entry, and with it the icon.
+    // Docks find the desktop entry and its icon by this name.
     QGuiApplication::setDesktopFileName("org.brastel.Brastel");
-    // The window is hidden while a dialog stands in for it.
+    // The main window is hidden while the piece-number dialog is open.
     QApplication::setQuitOnLastWindowClosed(false);
 
     brastel::MainWindow window;

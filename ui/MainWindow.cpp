@@ -160,7 +160,7 @@ void MainWindow::ConnectInput() {
     ConnectGestures(*Keyboard);
     connect(Keyboard, &KeyboardInput::FocusMoved, this,
             [this](int square) { NotifySquareFocused(*Form, square); });
-    connect(Keyboard, &KeyboardInput::Told, Announcements, &Announcer::Say);
+    connect(Keyboard, &KeyboardInput::Announced, Announcements, &Announcer::Say);
     const std::pair<QPushButton*, void (*)()> commands[] = {
         {btn_Forward, StepForward}, {btn_Backward, StepBack}, {btn_Hint, Hint}};
     for (const auto& [button, command] : commands) {
@@ -269,8 +269,8 @@ std::string MainWindow::DocumentsFolder() const {
 }
 
 /// May come in the middle of a computer move. During the pause before the search, the window closes
-/// at once and no search begins. During the search, it closes when the search is over. In both cases
-/// the move is not played, and the program ends when control returns to the event loop.
+/// at once and no search begins. During the search, it closes when the search is over. In both
+/// cases the move is not played, and the program ends when control returns to the event loop.
 void MainWindow::closeEvent(QCloseEvent* event) {
     Closing = true;
     event->accept();

@@ -18,7 +18,8 @@ class BoardView;
 class KeyboardInput;
 class MouseInput;
 
-/// frm_Tamber, the main window. While it exists it is the view of the game and of the file commands.
+/// frm_Tamber, the main window. While it exists it is the view of the game and of the file
+/// commands.
 class MainWindow final : public QMainWindow, public GameView, public FileView {
 public:
     MainWindow();
@@ -42,7 +43,8 @@ public:
 
     // ---- FileView ----
     void CloseMainWindow() override;
-    /// Shows the window centred, with a new game of the current start layout at the lowest strength.
+    /// Shows the window centred, with a new game of the current start layout at the lowest
+    /// strength.
     void OpenMainWindow() override;
     bool AskYesOrNo(const std::string& text, const std::string& title) override;
     void ShowWarning(const std::string& text, const std::string& title) override;

@@ -121,8 +121,8 @@ QMenu* BuildMenus(QMainWindow& window) {
     return levels;
 }
 
-/// Not an exclusive group of actions: Qt draws bullets for these. Only the chosen item is checkable:
-/// Qt draws empty boxes for checkable items, as if several could be checked.
+/// Not an exclusive group of actions: Qt draws bullets for these. Only the chosen item is
+/// checkable: Qt draws empty boxes for checkable items, as if several could be checked.
 void CheckLevel(const QMenu& levels, Int16 level) {
     for (QAction* action : levels.actions()) {
         const bool isChosen = action->data() == level;

@@ -11,14 +11,14 @@ namespace brastel {
 
 namespace {
 
-/// The moving outline of a dragged piece. A widget of its own, above the controls too, so that Qt
-/// repaints what it leaves behind.
+/// The moving outline of a dragged piece. It is a widget, above the controls too, so that Qt
+/// repaints the places that it leaves.
 class DragOutline : public QWidget {
 public:
     explicit DragOutline(QWidget* parent) : QWidget(parent) {
         setObjectName("DragOutline");
         setAttribute(Qt::WA_TransparentForMouseEvents);
-        const int edge = CellSize + 1 + 2 * MarkMargin;
+        const int edge = CellSize + 1 + 2 * FrameMargin;
         resize(edge, edge);
         hide();
     }
@@ -26,12 +26,12 @@ public:
 protected:
     void paintEvent(QPaintEvent* /*event*/) override {
         QPainter painter(this);
-        PaintMark(painter, rect().marginsRemoved(QMargins() + MarkMargin));
+        PaintFrame(painter, rect().marginsRemoved(QMargins() + FrameMargin));
     }
 };
 
-/// An open hand over a piece that can act, a pointing one over a piece that a double-click gives
-/// the ring.
+/// An open hand over a piece that can be dragged, a pointing hand over a piece that can get the
+/// ring.
 Qt::CursorShape CursorOver(Piece piece) {
     if (MayPlaceRing(piece)) return Qt::PointingHandCursor;
     const int square = SquareOf(piece);
@@ -47,7 +47,7 @@ bool IsFormPoint(const QWidget& form, QPoint point) {
 }  // namespace
 
 MouseInput::MouseInput(BoardView* view) : BoardInput(view), Outline(new DragOutline(view)) {
-    // Moves without a button choose the cursor, and tell that a release went elsewhere.
+    // Moves without a button set the cursor and show that a release was sent to another window.
     Form->setMouseTracking(true);
     for (QWidget* control : Form->findChildren<QWidget*>(Qt::FindDirectChildrenOnly)) {
         control->setCursor(Qt::ArrowCursor);
@@ -93,8 +93,8 @@ bool MouseInput::eventFilter(QObject* /*watched*/, QEvent* event) {
     }
 }
 
-/// Ends a gesture whose button is no longer down: its release went elsewhere, and the next one
-/// would drop the piece wherever it comes.
+/// Ends a gesture whose button is no longer down. Its release was sent to another window; without
+/// this, the next release would drop the piece.
 void MouseInput::Follow(const QMouseEvent& event) {
     Pointer = PixelOf(event);
     const Qt::MouseButtons heldBefore = event.buttons() & ~Qt::MouseButtons(event.button());
@@ -115,8 +115,8 @@ void MouseInput::Press(const QMouseEvent& event) {
 
 void MouseInput::TakePiece() {
     const int square = SquareOf(Pressed);
-    Grip = Pointer - QPoint(SquareLeft(square), SquareTop(square));
-    // The keyboard must reach the form, or Escape would not end the drag.
+    DragOffset = Pointer - QPoint(SquareLeft(square), SquareTop(square));
+    // Escape ends the drag only if the form has the keyboard focus.
     Form->setFocus(Qt::MouseFocusReason);
     Current = Gesture::Drag;
     Form->ShowHeld(square);
@@ -124,8 +124,8 @@ void MouseInput::TakePiece() {
     ShowCursor();
 }
 
-/// The second press of a double-click begins a gesture like any other press, unless the button went
-/// up while the computer answered. A piece that the first click has only just added gets no ring.
+/// The second press of a double-click begins a gesture like any other press, unless the button was
+/// released while the computer answered. A piece that the first click added does not get the ring.
 void MouseInput::DoubleClick(const QMouseEvent& event) {
     Follow(event);
     if (Current != Gesture::None) return;
@@ -154,7 +154,7 @@ void MouseInput::Release(const QMouseEvent& event) {
 }
 
 void MouseInput::ShowOutline() {
-    Outline->move(Pointer - Grip - QPoint(MarkMargin, MarkMargin));
+    Outline->move(Pointer - DragOffset - QPoint(FrameMargin, FrameMargin));
     Outline->raise();
     Outline->show();
 }

@@ -6,21 +6,21 @@
 
 namespace brastel {
 
-/// Turns what the mouse does on the board view into gestures: every button drags a piece, with an
-/// outline that follows the pointer, or clicks on the empty form. Losing the mouse or the keyboard
-/// ends a drag without a drop. The cursor tells what may be dragged or given the ring. The view's
-/// controls, made before, keep the arrow.
+/// Turns mouse events on the board view into gestures. Every button drags a piece, with an outline
+/// that follows the pointer, or clicks on the empty form. A drag ends without a drop when the view
+/// loses the mouse or the keyboard focus. The cursor shows which pieces can be dragged or can get
+/// the ring. Over the controls of the view, which must exist before, it is an arrow.
 class MouseInput : public BoardInput {
     Q_OBJECT
 
 public:
     explicit MouseInput(BoardView* view);
 
-    /// Ends whatever is under way without a drop or click.
+    /// Ends the current gesture without a drop or click.
     void Cancel();
 
-    /// Shows the cursor that fits the gesture under way or what the pointer is on; called when that
-    /// may have changed.
+    /// Shows the cursor for the current gesture, or for the piece under the pointer. Must be called
+    /// when these may have changed.
     void ShowCursor();
 
 protected:
@@ -41,9 +41,9 @@ private:
     Gesture Current = Gesture::None;
     Qt::MouseButton Button = Qt::NoButton;
     QPoint Pointer;
-    /// The piece under the last press, and where in its picture it was taken.
+    /// The piece under the last press, and the point of its picture that was pressed.
     Piece Pressed;
-    QPoint Grip;
+    QPoint DragOffset;
 };
 
 }  // namespace brastel

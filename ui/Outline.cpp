@@ -15,7 +15,7 @@ void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width, QColor
     painter.fillRect(toDevice.inverted().mapRect(device), color);
 }
 
-void PaintMark(QPainter& painter, const QRect& rect) {
+void PaintFrame(QPainter& painter, const QRect& rect) {
     constexpr QColor Blue(0, 64, 255);
     PaintOutline(painter, rect.adjusted(1, 1, -1, -1), 3, Qt::white);
     PaintOutline(painter, rect, 3, Blue);

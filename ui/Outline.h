@@ -4,19 +4,21 @@
 
 namespace brastel {
 
-/// A straight line between two logical pixels, both included, about `width` logical pixels wide. It
-/// covers whole device pixels at every ratio. Lines of one width are equally wide and meet at their
-/// ends; a wider line reaches equally far beyond a thin one on all sides. The line is upright or
-/// level, `from` not right of or below `to`.
+/// Lines that are sharp at every device pixel ratio, and the frames made of them.
+///
+/// Paints a straight line between two logical pixels, both included, about `width` logical pixels
+/// wide. It covers whole device pixels at every ratio. Lines of the same `width` are equally wide
+/// and meet at their ends. A wider line extends equally far beyond a thin one on all sides. The
+/// line is vertical or horizontal, and `from` is not right of or below `to`.
 void PaintSharpLine(QPainter& painter, QPoint from, QPoint to, int width, QColor color = Qt::black);
 
-/// Such lines along the outermost pixels of the rectangle.
+/// Paints such lines along the outermost pixels of the rectangle.
 void PaintOutline(QPainter& painter, const QRect& rect, int width = 1, QColor color = Qt::black);
 
-/// The frame of the keyboard's square and of a dragged piece: blue, which stands out from the
-/// ground and the beads, with a white line inside, which stands out from lines and rings.
-void PaintMark(QPainter& painter, const QRect& rect);
-/// How far device pixels of the frame can lie beside its rectangle, in logical pixels.
-constexpr int MarkMargin = 2;
+/// Paints the frame of the square with the keyboard focus, or of a dragged piece. It is blue, which
+/// contrasts with the background and the beads. A white line inside contrasts with lines and rings.
+void PaintFrame(QPainter& painter, const QRect& rect);
+/// How far the frame can extend beyond its rectangle, in logical pixels.
+constexpr int FrameMargin = 2;
 
 }  // namespace brastel

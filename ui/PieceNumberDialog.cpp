@@ -70,7 +70,7 @@ void PieceNumberDialog::AddLabels() {
         font.setPixelSize(FontPixels(row.Points));
         label->setFont(font);
         ShrinkTextToFit(*label);
-        // If the line is higher than its label, only the blank space around the letters is cut.
+        // If the line is higher than its label, only empty space above and below is cut off.
         const bool isHigh = label->fontMetrics().height() > label->height();
         label->setAlignment(isHigh ? Qt::AlignVCenter : Qt::AlignTop);
     }
@@ -92,7 +92,7 @@ void PieceNumberDialog::AddNumberButtons() {
 void PieceNumberDialog::AddOkButton() {
     auto* button = new EnterButton("OK", this);
     PlaceControl(*button, "btn_OK", OkPlace);
-    // Enter right after the opening changes nothing.
+    // Enter right after the dialog opens changes nothing.
     button->setFocus();
     connect(button, &QPushButton::clicked, this, &QDialog::accept);
 }

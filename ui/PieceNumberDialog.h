@@ -4,9 +4,9 @@
 
 namespace brastel {
 
-/// frm_GameSize: chooses the number of pieces a side, and tells what the program is. A number
-/// button makes its layout the start of the games to come; OK and every other way out leave it as
-/// it was. Opened modally by exec().
+/// frm_GameSize: chooses the number of pieces of each side and shows what the program is. A number
+/// button selects the start layout. OK and all other ways to close the dialog change nothing.
+/// Opened modally by exec().
 class PieceNumberDialog : public QDialog {
 public:
     PieceNumberDialog();

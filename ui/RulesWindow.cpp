@@ -18,8 +18,8 @@ constexpr TwipRect OkPlace{11200, 7100, 1095, 405};
 constexpr double TextPoints = 13.2;
 constexpr double ButtonPoints = 9;
 
-/// The same with every font: the rules and the lines about the manual fill the window, and the
-/// button stands to the right of rule 8.
+/// With every font, the rules and the lines about the manual fill the window, and the button is to
+/// the right of rule 8.
 constexpr int LinesInWindow = 36;
 constexpr qreal LineHeight = Pixels(InnerHeight) / qreal{LinesInWindow};
 
@@ -94,8 +94,8 @@ QFont TextFont() {
     return font;
 }
 
-/// The factor, at most 1, by which the text is made narrower, so that every line ends before the
-/// window's right edge, or before the button if it stands beside the button.
+/// The factor, at most 1, that makes the text narrow enough: every line ends before the right edge
+/// of the window, and lines beside the button end before the button.
 qreal Stretch(const QFontMetricsF& metrics) {
     constexpr int Margin = 8;
     const QRectF button = OkPlace.InPixels();
@@ -133,7 +133,7 @@ RulesWindow::RulesWindow() {
     CentreOnScreen(*this);
 }
 
-/// Neither wrapped nor scrolled. Lines below the lower edge are not seen.
+/// The text is not wrapped and not scrolled. Lines below the lower edge are not visible.
 void RulesWindow::paintEvent(QPaintEvent* /*event*/) {
     QPainter painter(this);
     painter.fillRect(rect(), Qt::white);

@@ -4,8 +4,7 @@
 
 namespace brastel {
 
-/// frm_Rules: the rules in words, painted line by line, with an OK button. Opened modally by
-/// exec().
+/// frm_Rules: the rules of the game and an OK button. Opened modally by exec().
 class RulesWindow : public QDialog {
 public:
     RulesWindow();
