@@ -12,16 +12,16 @@ namespace {
 
 constexpr std::string_view Root = "/";
 
-/// File systems of disks have a device; these come over the network or from a user's program.
+/// File systems without a device of their own that a user mounts over the network.
 constexpr std::array<std::string_view, 9> RemoteTypes{"nfs", "nfs4", "cifs", "smb3", "smbfs",
                                                       "9p",  "afs",  "ceph", "davfs"};
 
-/// Where a system mounts parts of itself.
+/// Volumes below these folders belong to the system.
 constexpr std::array<std::string_view, 12> SystemFolders{"/boot", "/dev",  "/efi", "/etc",
                                                          "/nix",  "/proc", "/run", "/snap",
                                                          "/sys",  "/usr",  "/var", "/tmp"};
 
-/// Volumes that a desktop mounts for its user, although they lie below a system folder.
+/// The exception: the desktop mounts volumes for its user here.
 constexpr std::string_view UserMedia = "/run/media";
 
 bool IsBelow(std::string_view path, std::string_view folder) {
@@ -41,7 +41,7 @@ bool IsOctal(std::string_view digits) {
     return digits.size() == 3 && digits.find_first_not_of("01234567") == std::string_view::npos;
 }
 
-/// The table writes blanks and backslashes as a backslash and three octal digits.
+/// In the table, spaces and backslashes are a backslash and three octal digits.
 std::string Unescaped(const std::string& text) {
     std::string plain;
     for (std::size_t i = 0; i < text.size(); ++i) {
@@ -59,8 +59,8 @@ struct Mount {
     std::string Device;
 };
 
-/// A line: number, parent, device number, root, place, options, optional fields up to "-", type,
-/// device, further options.
+/// A line has these fields: number, parent, device number, root, place, options, optional fields up
+/// to "-", type, device, further options.
 Mount ParseMount(const std::string& line) {
     std::istringstream fields(line);
     Mount mount;

@@ -26,7 +26,7 @@ const std::string MissingFileText = "ファイルが存在しません。";
 /// The folder last shown on each drive.
 std::map<std::string, std::string> FolderOnDrive;
 
-/// The working folder goes to the program's own folder when a file is first chosen for loading.
+/// When the first file is loaded, the working folder changes to the folder of the program.
 bool HasLoadedBefore = false;
 
 // ---- The lists ----
@@ -49,8 +49,8 @@ void ListFolders(const std::string& drive) {
 
 void ListFiles() { Chooser.Files = FilesIn(Chooser.Folder, Chooser.Pattern); }
 
-/// Brings all lists in step with the working folder.
-void FollowWorkingFolder() {
+/// Fills all lists for the working folder.
+void ListWorkingFolder() {
     std::error_code error;
     fs::path folder = fs::current_path(error);
     if (error) {
@@ -68,14 +68,14 @@ void FollowWorkingFolder() {
     ListFiles();
 }
 
-/// A folder that cannot be entered changes nothing; one that cannot be read is shown as empty. Both
-/// show the system's error text. True if the folder was entered.
+/// Returns true if the folder was entered; otherwise nothing changes. A folder that cannot be read
+/// is shown as empty. In both cases a box shows the error text of the system.
 bool EnterFolder(const fs::path& folder) {
     std::error_code error;
     fs::current_path(folder, error);
     const bool isEntered = !error;
     if (isEntered) {
-        FollowWorkingFolder();
+        ListWorkingFolder();
         const fs::directory_iterator content(Chooser.Folder, error);
     }
     if (error) FileWindows->ShowWarning(error.message(), ProgramTitle);
@@ -95,7 +95,8 @@ const Row* RowAt(const std::vector<Row>& rows, int row) {
 
 // ---- A file is chosen ----
 
-/// An installed program lies where its user may not write: a game saved there by name would fail.
+/// Usually the user may not write to the folder of an installed program. Then a save by name would
+/// fail there, so the documents folder is entered instead.
 void EnterProgramFolder() {
     std::error_code error;
     fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
@@ -115,9 +116,7 @@ bool ChoosePath(const std::string& path) {
     return true;
 }
 
-// ---- The four outcomes of OK ----
-
-// Each is false if the text is none of its kind.
+// ---- The kinds of text for OK. Each returns false if the text is of another kind. ----
 
 bool TakeFolder(const std::string& text) {
     if (!IsFolder(text)) return false;
@@ -125,7 +124,7 @@ bool TakeFolder(const std::string& text) {
     return true;
 }
 
-/// A pattern, with a folder before it or not.
+/// The pattern can have a folder before it.
 bool TakePattern(const std::string& text) {
     const fs::path path(text);
     if (!IsPattern(path.filename().string())) return false;
@@ -171,7 +170,7 @@ void OpenChooser(ChooserMode mode) {
     Chooser.Mode = mode;
     Chooser.Pattern = AllFiles;
     Chooser.NameBox = mode == ChooserMode::Open ? std::string(AllFiles) : ChosenFileName;
-    FollowWorkingFolder();
+    ListWorkingFolder();
 }
 
 void ChooseDrive(int drive) {
@@ -179,7 +178,7 @@ void ChooseDrive(int drive) {
     if (row == nullptr) return;
     const std::string chosen = *row;
     const auto last = FolderOnDrive.find(chosen);
-    // Since then the folder may have been removed, or another drive mounted there.
+    // The folder may have been removed since then, or another drive may be mounted there.
     const bool isKnown = last != FolderOnDrive.end() && IsFolder(last->second) &&
                          DriveOf(Chooser.Drives, last->second) == chosen;
     if (!isKnown || !EnterFolder(last->second)) EnterFolder(chosen);
@@ -211,7 +210,7 @@ bool GoToFile(const std::string& text) {
 
 bool ConfirmName(const std::string& text) {
     if (TakeFolder(text)) return false;
-    // A file whose own name holds a wildcard can be chosen like any other.
+    // Before the pattern, so that a file with * or ? in its name can be chosen.
     if (GoToFile(text)) return ChoosePath(JoinPath(Chooser.Folder, Chooser.NameBox));
     return !TakePattern(text) && TakeUnknownName(text);
 }

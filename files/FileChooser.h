@@ -3,14 +3,15 @@
 #include <string>
 #include <vector>
 
-/// The logic of the file dialog, without its widgets: the dialog shows Chooser and calls one of
-/// these for each thing the user does. Names are the system's bytes, paths absolute.
+/// The logic of the file dialog, without its widgets. The dialog shows the data in Chooser and
+/// calls one of these operations for each input of the user. Names are the bytes of the system.
+/// Paths are absolute.
 namespace brastel {
 
 enum class ChooserMode { Open, Save };
 
-/// One row of the folder list: the folders from the drive down to the current one, then the folders
-/// in it.
+/// One row of the folder list. The list has the folders from the drive down to the current folder,
+/// then the folders in it.
 struct FolderRow {
     std::string Path;
     std::string Name;
@@ -23,7 +24,7 @@ struct ChooserState {
     ChooserMode Mode = ChooserMode::Open;
     std::string NameBox;
     std::string Pattern;
-    /// The current folder, which is the process's working folder, too.
+    /// The current folder, which is also the working folder of the process.
     std::string Folder;
     std::vector<std::string> Files;
     std::vector<FolderRow> Folders;
@@ -33,34 +34,34 @@ struct ChooserState {
 };
 extern ChooserState Chooser;
 
-/// Full path of the file chosen last from the list; proposed as the name when a game is saved.
+/// Full path of the file that was last chosen from the list. It is the default name for saving.
 extern std::string ChosenFileName;
 
 /// "開く" or "新規保存".
 const char* ChooserTitle(ChooserMode mode);
 
-/// As when the program starts: no folder visited, no file loaded or chosen.
+/// Restores the state at the start of the program: no folder visited, no file loaded or chosen.
 void ForgetVisits();
 
-/// Starts the dialog anew in the working folder.
+/// Sets the data for a new dialog in the working folder.
 void OpenChooser(ChooserMode mode);
 
-/// Rows and drives out of range change nothing. Nor does a folder that cannot be entered, but a box
-/// says why.
+/// Nothing changes if the row or drive does not exist. If a folder cannot be entered, nothing
+/// changes and a box shows the cause.
 void ChooseDrive(int drive);
 void ChooseFolder(int row);
 /// A click on a file.
 void ClickFile(int row);
 
-/// If the text names an existing file that is no folder: moves the lists to its folder and leaves
-/// its name in the name box. False, and nothing changed, for other texts.
+/// If the text is the path of an existing file, not a folder: makes its folder the current folder,
+/// puts its name in the name box and returns true. Otherwise nothing changes.
 bool GoToFile(const std::string& text);
 
-/// These two return true when the dialog is to close.
+// These two return true if the dialog must close.
 /// A double-click on a file: loads or saves it.
 bool ChooseFile(int row);
-/// OK with this text in the name box: a pattern, a folder, an existing file, or something else.
-/// Begins with GoToFile for a file.
+/// OK with this text in the name box: a folder, an existing file, a pattern or a new name. For a
+/// file it calls GoToFile first.
 bool ConfirmName(const std::string& text);
 
 }  // namespace brastel

@@ -5,21 +5,21 @@
 
 namespace brastel {
 
-/// What can go wrong with a game file. The numbers are shown to the user; FORMAT.md explains each.
+/// Errors of game files. The user sees the numbers, and FORMAT.md explains them.
 enum class FileError {
     None = 0,
     FileNotFound = 1,
-    /// A folder of the path is missing, is no folder or may not be entered, or the file may not be
-    /// opened.
+    /// A folder of the path is missing, is not a folder or cannot be entered, or the user has no
+    /// right to open the file.
     PathNotAccessible = 2,
     EndOfFile = 3,
     NotANumber = 4,
-    /// Beyond 16 bits, or a start position that no board could hold.
+    /// More than 16 bits, or a start position that is not possible.
     OutOfRange = 5,
-    /// A count larger than the table it counts.
+    /// The count is larger than its table.
     CountTooLarge = 6,
     DiskFull = 7,
-    /// A folder, a device or a pipe where a file is to be read.
+    /// A folder, a device or a pipe instead of a file.
     NotAFile = 8,
     /// Anything else that the system reports.
     SystemFailure = 9,
@@ -27,13 +27,13 @@ enum class FileError {
     FileTooLong = 10,
 };
 
-/// The cause behind a system error number (errno) of opening, reading or writing a file.
+/// The error for a system error number (errno) of opening, reading or writing a file.
 FileError FileErrorFromSystem(int systemError);
 
-/// What the error means, in a few English words. FORMAT.md has more.
+/// The error in a few English words, for messages of programs.
 std::string_view FileErrorInWords(FileError error);
 
-/// The text of the error box: a fixed sentence with the number right behind it.
+/// The text of the error box: a fixed sentence followed by the number.
 std::string FileErrorText(FileError error);
 
 }  // namespace brastel

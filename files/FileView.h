@@ -4,8 +4,8 @@
 
 namespace brastel {
 
-/// What the file commands need of the windows. Texts are UTF-8. As GameView it does nothing by
-/// itself.
+/// The operations of windows that the file commands use. Texts are UTF-8. Here they do nothing; a
+/// window overrides them.
 class FileView {
 public:
     FileView() = default;
@@ -13,25 +13,26 @@ public:
     FileView(const FileView&) = delete;
     FileView& operator=(const FileView&) = delete;
 
-    /// The main window is taken down and, later, built again for the counts then in force.
+    /// Hides the main window, and later shows it with a new game of the current start tables.
     virtual void CloseMainWindow() {}
     virtual void OpenMainWindow() {}
 
-    /// A box with Yes and No, No the default button, no icon. True for Yes.
+    /// Shows a box with Yes and No and without an icon. No is the default button. True for Yes.
     virtual bool AskYesOrNo(const std::string& /*text*/, const std::string& /*title*/) {
         return false;
     }
-    /// A box with the exclamation icon.
+    /// Shows a box with the exclamation icon.
     virtual void ShowWarning(const std::string& /*text*/, const std::string& /*title*/) {}
 
-    /// Where the user keeps documents; the home folder if no such folder can be written to.
+    /// The documents folder of the user, or the home folder if the documents folder is not
+    /// writable.
     virtual std::string DocumentsFolder() const { return {}; }
 };
 
-/// The view that the file commands speak to; never null.
+/// The view that the file commands use. Never null.
 extern FileView* FileWindows;
 
-/// Makes this the view until another one is set; null sets one that shows nothing.
+/// Sets the view. Null sets a view that shows nothing.
 void SetFileView(FileView* view);
 
 }  // namespace brastel

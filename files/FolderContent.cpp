@@ -11,7 +11,8 @@ namespace fs = std::filesystem;
 
 constexpr char Separator = static_cast<char>(fs::path::preferred_separator);
 
-/// Bytes of the UTF-8 character at the start of a text that is not empty; 1 for a stray byte.
+/// Length in bytes of the UTF-8 character at the start of a text that is not empty. 1 for a byte
+/// that is not UTF-8.
 std::size_t CharacterLength(std::string_view text) {
     std::size_t length = 1;
     while (length < text.size() && (static_cast<unsigned char>(text[length]) & 0xC0U) == 0x80U) {
@@ -20,8 +21,8 @@ std::size_t CharacterLength(std::string_view text) {
     return length;
 }
 
-/// Walks on greedily and comes back to the last star, so that it stays linear in name times
-/// pattern.
+/// When a match fails, only the last star is tried with one more character. So the time grows at
+/// most with the length of the name times the length of the pattern.
 bool MatchesOne(std::string_view name, std::string_view pattern) {
     std::string_view afterStar;
     std::string_view retry;
@@ -51,7 +52,7 @@ bool MatchesOne(std::string_view name, std::string_view pattern) {
 
 bool IsHidden(std::string_view name) { return name.starts_with('.'); }
 
-/// Names of the entries that `isWanted` accepts; a folder that cannot be read has none.
+/// Names of the entries that `isWanted` accepts. Empty if the folder cannot be read.
 template <typename Condition>
 std::vector<std::string> NamesIn(const std::string& folder, Condition isWanted) {
     std::vector<std::string> names;

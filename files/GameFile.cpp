@@ -26,61 +26,64 @@ void ReportFileError(FileError error) {
 
 // ---- Writing ----
 
-std::string Line(Int16 value) { return NumberText(value) + LineEnd; }
-std::string Line(Int16 first, Int16 second) {
+std::string NumberLine(Int16 value) { return NumberText(value) + LineEnd; }
+std::string NumberLine(Int16 first, Int16 second) {
     return NumberText(first) + NumberText(second) + LineEnd;
 }
 
 std::string TableLines(const StartTable& table, Int16 count) {
     std::string lines;
-    for (int i = 0; i <= count; ++i) lines += Line(table[i]);
+    for (int i = 0; i <= count; ++i) lines += NumberLine(table[i]);
     return lines;
 }
 
 std::string StartText() {
     const Int16 redCount = ToInt16(StartCount(Red));
     const Int16 blueCount = ToInt16(StartCount(Blue));
-    return Line(redCount, blueCount) + TableLines(RedStart, redCount) +
+    return NumberLine(redCount, blueCount) + TableLines(RedStart, redCount) +
            TableLines(BlueStart, blueCount);
 }
 
 std::string GameText() {
     const Int16 entries = ToInt16(Pos.MoveCount - 1);
-    std::string text = StartText() + Line(entries);
-    for (int k = 1; k <= entries; ++k) text += Line(PlayedFrom[k], PlayedTo[k]);
+    std::string text = StartText() + NumberLine(entries);
+    for (int k = 1; k <= entries; ++k) text += NumberLine(PlayedFrom[k], PlayedTo[k]);
     return text;
 }
 
-// ---- Reading: each value goes straight to its place, so that those before an error stay ----
+// ---- Reading: each value is stored at once, so values before an error are kept ----
 
 GameReading Failure(FileError error, std::string_view cause, std::int64_t line) {
     return {error, cause, line, 0, {}};
 }
 
-/// What the reader itself met with; without an error if all is well.
+/// The error of the reader itself, if any.
 GameReading StateOf(const NumberReader& file) {
-    return Failure(file.Error(), FileErrorInWords(file.Error()), file.Line());
+    return Failure(file.Error(), FileErrorInWords(file.Error()), file.LineNumber());
+}
+
+GameReading OutOfRange(const NumberReader& file, std::string_view cause) {
+    return Failure(FileError::OutOfRange, cause, file.LineNumber());
 }
 
 bool IsGood(const GameReading& reading) { return reading.Error == FileError::None; }
 
-/// A count and the line on which it stands.
+/// A count and its line in the file.
 struct Count {
     Int16& Value;
     std::int64_t Line = 0;
 };
 
-/// A negative count is no number of pieces or entries.
 GameReading ReadCount(NumberReader& file, Count& count) {
     Int16 value = 0;
     if (!file.Read(value)) return StateOf(file);
-    if (value < 0) return Failure(FileError::OutOfRange, "a negative count", file.Line());
+    if (value < 0) return OutOfRange(file, "a negative count");
     count.Value = value;
-    count.Line = file.Line();
+    count.Line = file.LineNumber();
     return {};
 }
 
-/// Reads entries 0 to `count`. `taken` marks the squares of pieces read so far.
+/// Reads entries 0 to `count`. `taken` marks the squares of the pieces read before.
 GameReading ReadTable(NumberReader& file, StartTable& table, const Count& count,
                       Table<bool, FirstSquare, LastSquare>& taken) {
     for (int i = 0; i <= count.Value; ++i) {
@@ -90,12 +93,8 @@ GameReading ReadTable(NumberReader& file, StartTable& table, const Count& count,
         Int16 square = 0;
         if (!file.Read(square)) return StateOf(file);
         if (i > 0) {
-            if (!IsOnBoard(square)) {
-                return Failure(FileError::OutOfRange, "a start square off the board", file.Line());
-            }
-            if (taken[square]) {
-                return Failure(FileError::OutOfRange, "a start square used twice", file.Line());
-            }
+            if (!IsOnBoard(square)) return OutOfRange(file, "a start square off the board");
+            if (taken[square]) return OutOfRange(file, "a start square used twice");
             taken[square] = true;
         }
         table[i] = square;
@@ -110,7 +109,7 @@ GameReading ReadEntries(NumberReader& file, const Count& count) {
             return Failure(FileError::CountTooLarge, "more than 200 entries", count.Line);
         }
         if (!file.Read(LoadedFrom[k])) return StateOf(file);
-        reading.EntryLine[k] = file.Line();
+        reading.EntryLine[k] = file.LineNumber();
         if (!file.Read(LoadedTo[k])) return StateOf(file);
     }
     return reading;
@@ -130,8 +129,8 @@ GameReading ReadGame(NumberReader& file) {
     return IsGood(reading) ? ReadEntries(file, entries) : reading;
 }
 
-/// The start that the file LoadedFileName gave. Empty after a failed load or a save to that file,
-/// so that the file is read again.
+/// The start tables in the file LoadedFileName, as text. Empty after a failed load or a save to
+/// that file: the file must then be read again.
 std::string StartRead;
 
 }  // namespace

@@ -7,37 +7,37 @@
 #include <string>
 #include <string_view>
 
-/// Games saved as text files. FORMAT.md beside this file describes them.
+/// Saving and loading games as text files. FORMAT.md describes the format and the errors.
 namespace brastel {
 
-/// Full path of the file that was read completely last; empty before.
+/// Full path of the last file that was read without an error. Empty if there is none.
 extern std::string LoadedFileName;
 
-/// Writes the game: counts, start tables and the entries played. Asks before it overwrites an
-/// existing file. A failure is shown to the user; it leaves an existing file as it was, and can
-/// leave a part of a new one behind. `path` is UTF-8 and may be relative to the working folder.
+/// Writes the counts, the start tables and the entries played. Asks the user before it overwrites
+/// an existing file. After a failure, a box shows the error and an existing file is unchanged; a
+/// part of a new file can remain. `path` is UTF-8 and can be relative to the working folder.
 void SaveGameFile(const std::string& path);
 
-/// How the reading of a game file went.
+/// Result of reading a game file.
 struct GameReading {
     FileError Error = FileError::None;
-    /// What is wrong, in a few words without a full stop; empty when nothing is.
+    /// The error in a few words without a full stop. Empty without an error.
     std::string_view Cause;
-    /// The line on which it is wrong, from 1; for a count too large that of the count.
+    /// The line of the error, from 1. For a count that is too large, the line of the count.
     std::int64_t Line = 0;
-    /// What the system calls the failure (errno), or 0 if the failure is none of its own.
+    /// The error number of the system (errno), or 0 if no system call failed.
     int SystemError = 0;
-    /// The lines on which the entries read begin.
+    /// The line on which each entry begins.
     Table<std::int64_t, 0, MaxEntries> EntryLine;
 };
 
-/// Reads a game into the counts, the start tables and the loaded record; what was read before a
-/// failure stays. The position is not set up. `path` is UTF-8 and may be relative.
+/// Reads a game into the counts, the start tables and the loaded record. Values read before a
+/// failure are kept. The position does not change. `path` is UTF-8 and can be relative.
 GameReading ReadGameFile(const std::string& path);
 
-/// Reads a game into the start tables and the loaded record, between taking the main window down
-/// and building it again. The file LoadedFileName is not read again while its game stands. A
-/// failure is shown to the user; what was read before it stays.
+/// Closes the main window, calls ReadGameFile, and opens the main window again. A box shows a
+/// failure. The file LoadedFileName is not read again if its game is still in the start tables and
+/// it was not saved since.
 void LoadGameFile(const std::string& path);
 
 }  // namespace brastel

@@ -14,15 +14,15 @@ namespace brastel {
 
 namespace {
 
-/// Longer than any number a hand would write; leading zeros could go on for ever.
+/// Limit for leading zeros, of which a file could have very many.
 constexpr int MaxTokenLength = 64;
 
 bool IsSeparator(int byte) {
     return std::string_view(" \t,\r\n").find(static_cast<char>(byte)) != std::string_view::npos;
 }
 
-/// Asked before opening, too: opening a pipe or a device can set something off.
-bool IsOtherThanFile(const std::string& path) {
+/// Also checked before opening, because opening a pipe or a device can start an action.
+bool IsNotOrdinaryFile(const std::string& path) {
     struct stat state {};
     return stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
 }
@@ -30,7 +30,7 @@ bool IsOtherThanFile(const std::string& path) {
 }  // namespace
 
 NumberReader::NumberReader(const std::string& path) {
-    if (IsOtherThanFile(path)) {
+    if (IsNotOrdinaryFile(path)) {
         Fail(FileError::NotAFile);
         return;
     }
@@ -70,7 +70,7 @@ void NumberReader::FailBy(int systemError, FileError error) {
     Fail(error);
 }
 
-/// A line feed right behind a carriage return belongs to it.
+/// A line feed directly after a carriage return does not begin another line.
 void NumberReader::CountLineEnd(int byte) {
     if (byte == '\r' || (byte == '\n' && LastSeparator != '\r')) ++CurrentLine;
     LastSeparator = byte;
@@ -94,7 +94,7 @@ bool NumberReader::Read(Int16& value) {
         if (std::isdigit(byte) == 0 || ++digits > MaxTokenLength)
             return Fail(FileError::NotANumber);
         number = number * 10 + (byte - '0');
-        // One more than the largest 16-bit number is still read: it may be negative.
+        // The limit is 32768, because -32768 is a 16-bit number.
         if (number > std::numeric_limits<Int16>::max() + 1) return Fail(FileError::OutOfRange);
         ++Used;
     }

@@ -9,31 +9,31 @@
 #include <optional>
 #include <string>
 
-/// Text files of 16-bit numbers.
+/// Reads and writes text files of 16-bit numbers.
 namespace brastel {
 
-/// Bytes of the longest file that is read. A longer one would only keep the program busy.
+/// Maximum size of a file in bytes. A longer file would keep the program busy for a long time.
 constexpr std::size_t MaxFileSize = 1'000'000;
 
-/// Reads numbers one by one, from ordinary files only: devices and pipes are refused at once and
-/// never waited for. A file longer than MaxFileSize is refused, too; if it grows later, its data
-/// end there.
+/// Reads the numbers of an ordinary file one by one. Devices and pipes are refused at once, without
+/// waiting for them. A file longer than MaxFileSize is refused, too. If the file grows later,
+/// reading ends at MaxFileSize.
 class NumberReader {
 public:
-    /// Opens the file; Error() tells whether that worked.
+    /// Opens the file. Error() is the result.
     explicit NumberReader(const std::string& path);
 
     FileError Error() const { return Failure; }
-    /// What the system calls the failure (errno), or 0 if the failure is none of its own.
+    /// The error number of the system (errno), or 0 if no system call failed.
     int SystemError() const { return SystemFailure; }
 
-    /// Skips spaces, tabs, commas and line ends and reads the next value into `value`. False, with
-    /// `value` unchanged, on the first error and ever after.
+    /// Skips spaces, tabs, commas and line ends and reads the next number into `value`. After the
+    /// first error it always returns false and does not change `value`.
     bool Read(Int16& value);
 
-    /// The line, from 1, of the value read last or of what is no value; at the end of the data that
-    /// of the last value. Lines end as in any editor: by line feed, carriage return or both.
-    std::int64_t Line() const { return ValueLine; }
+    /// The line, from 1, of the last number or of a text that is not a number. Lines end with line
+    /// feed, carriage return or both.
+    std::int64_t LineNumber() const { return ValueLine; }
 
 private:
     static constexpr int EndOfData = -1;
@@ -57,7 +57,7 @@ private:
     int LastSeparator = 0;
 };
 
-/// A number as files hold it: a sign column (a space unless negative), the digits, a space.
+/// A number as text: the sign (a space or a minus), the digits, a space.
 std::string NumberText(Int16 value);
 
 }  // namespace brastel

@@ -7,31 +7,31 @@
 
 namespace brastel {
 
-/// A file that is closed at the end of its scope.
+/// An open file. The destructor closes it.
 class OpenFile {
 public:
-    /// Opens with the flags of open(2). Pipes and devices are not waited for. On failure errno is
-    /// set and Descriptor() is negative.
+    /// Opens with the flags of open(2), without waiting for pipes and devices. After a failure,
+    /// errno is set and Descriptor() is negative.
     OpenFile(const std::string& path, int flags);
     explicit OpenFile(int descriptor) : File(descriptor) {}
-    /// Leaves errno as it was.
+    /// Does not change errno.
     ~OpenFile();
     OpenFile(const OpenFile&) = delete;
     OpenFile& operator=(const OpenFile&) = delete;
 
     int Descriptor() const { return File; }
     bool IsOpen() const { return File >= 0; }
-    /// All zero for a file that is not open.
+    /// The result of fstat(2). All zero if the file is not open.
     struct stat State() const;
-    /// False, with errno set, where the system reports only now that it could not write.
+    /// Returns false and sets errno if the system reports a failed write only when closing.
     bool Close();
 
 private:
     int File;
 };
 
-/// The cause behind a failure to open a path: a missing file in a missing folder is a missing path.
-/// Leaves errno as it was.
+/// The error for a path that could not be opened: FileNotFound if its folder exists, otherwise
+/// PathNotAccessible. Does not change errno.
 FileError FileErrorOfOpening(const std::string& path, int systemError);
 
 }  // namespace brastel

@@ -16,7 +16,7 @@ namespace brastel {
 
 namespace {
 
-/// For copies of files in folders that may not be written to. It survives a restart of the system.
+/// For copies of files whose own folder is not writable. Files here are kept after a restart.
 constexpr const char* CopyFolder = "/var/tmp";
 
 // ---- Steps that return false and set errno when they fail ----
@@ -39,11 +39,11 @@ bool WriteAndClose(OpenFile& file, const std::string& text) {
 bool GoToStart(const OpenFile& file) { return lseek(file.Descriptor(), 0, SEEK_SET) == 0; }
 
 /// Sets the size of the file and waits until the file is on disk.
-bool Settle(const OpenFile& file, off_t size) {
+bool SetSizeAndSync(const OpenFile& file, off_t size) {
     return ftruncate(file.Descriptor(), size) == 0 && fsync(file.Descriptor()) == 0;
 }
 
-/// Writes over the start of the other file.
+/// Copies the whole file over the start of the other file.
 bool CopyAll(const OpenFile& from, const OpenFile& to) {
     if (!GoToStart(from) || !GoToStart(to)) return false;
     std::array<char, 65536> part{};
@@ -64,7 +64,8 @@ bool SyncFolderOf(const std::string& path) {
     return folder.IsOpen() && fsync(folder.Descriptor()) == 0;
 }
 
-/// A new file for its owner only, removed at the end unless it is kept.
+/// A new file that only its owner can read. The destructor removes it unless Keep or Rename was
+/// called.
 class TemporaryFile : public OpenFile {
 public:
     explicit TemporaryFile(const std::string& folder) : TemporaryFile(folder, "/.brastel-XXXXXX") {}
@@ -93,7 +94,7 @@ private:
 
 // ---- Replacing a file ----
 
-/// The full path without links; empty if there is none.
+/// The full path without links. Empty if it does not exist.
 std::string RealName(const std::string& path) {
     std::error_code error;
     return std::filesystem::canonical(path, error).string();
@@ -110,15 +111,16 @@ bool HasAccessList(const OpenFile& file) {
     return fgetxattr(file.Descriptor(), "system.posix_acl_access", nullptr, 0) > 0;
 }
 
-/// The owner comes first: until the mode follows, nobody else may read the file. As after any
-/// writing, the bits that let a program run as its owner or group are gone.
-bool TakeOver(const struct stat& state, const OpenFile& file) {
+/// The owner is set before the mode, so no other user can read the file in between. The bits that
+/// let a program run as its owner or group are cleared, as after every write.
+bool SetOwnerAndMode(const struct stat& state, const OpenFile& file) {
     constexpr mode_t Permissions = S_IRWXU | S_IRWXG | S_IRWXO;
     return fchown(file.Descriptor(), state.st_uid, state.st_gid) == 0 &&
            fchmod(file.Descriptor(), state.st_mode & Permissions) == 0;
 }
 
-/// A shell that has redirected the output of this program goes on writing to this file.
+/// Such a file must not be replaced: the shell that redirected the output would go on writing to
+/// the old file.
 bool IsStandardOutput(const struct stat& state) {
     struct stat output {};
     return fstat(STDOUT_FILENO, &output) == 0 && output.st_dev == state.st_dev &&
@@ -131,9 +133,9 @@ bool Replace(const std::string& path, const OpenFile& old, const std::string& te
     if (!IsOnlyName(name, state) || HasAccessList(old) || IsStandardOutput(state)) return false;
     TemporaryFile draft(FolderOf(name));
     const bool isReady = draft.IsOpen() && WriteAll(draft, text) && !HasAccessList(draft) &&
-                         TakeOver(state, draft) && fsync(draft.Descriptor()) == 0;
+                         SetOwnerAndMode(state, draft) && fsync(draft.Descriptor()) == 0;
     if (!isReady || !draft.Rename(name)) return false;
-    // If this fails, a power failure leaves either file, and each is whole.
+    // If this fails, a power failure leaves the old or the new file, and both are complete.
     SyncFolderOf(name);
     return true;
 }
@@ -142,22 +144,22 @@ bool Replace(const std::string& path, const OpenFile& old, const std::string& te
 
 bool IsDiskFull() { return FileErrorFromSystem(errno) == FileError::DiskFull; }
 
-/// False where there is no space; true where the file system cannot tell beforehand.
+/// False if there is no space. True if the file system cannot reserve space.
 bool Reserve(const OpenFile& file, off_t size) {
     return fallocate(file.Descriptor(), FALLOC_FL_KEEP_SIZE, 0, size) == 0 || !IsDiskFull();
 }
 
-/// Copies the file to the disk, into its own folder if possible.
+/// Copies the file and waits until the copy is on disk, in the folder of the file if possible.
 bool CopyToDisk(const OpenFile& file, const std::string& name, std::optional<TemporaryFile>& copy) {
     if (!name.empty()) copy.emplace(FolderOf(name));
     if (!copy || !copy->IsOpen()) copy.emplace(CopyFolder);
     const bool isSafe = copy->IsOpen() && CopyAll(file, *copy) && fsync(copy->Descriptor()) == 0;
-    // Some file systems cannot do this.
+    // Some file systems cannot sync a folder, so the result is ignored.
     if (isSafe) SyncFolderOf(copy->Name());
     return isSafe;
 }
 
-/// Old blocks are written over before the length changes, so that putting them back needs no space.
+/// Old blocks are overwritten before the length changes, so restoring them needs no space.
 bool Overwrite(const std::string& path, const std::string& text) {
     const OpenFile file(path, O_RDWR);
     const auto newSize = static_cast<off_t>(text.size());
@@ -165,9 +167,9 @@ bool Overwrite(const std::string& path, const std::string& text) {
     const off_t size = file.State().st_size;
     std::optional<TemporaryFile> copy;
     if (size > 0 && !CopyToDisk(file, RealName(path), copy)) return false;
-    if (GoToStart(file) && WriteAll(file, text) && Settle(file, newSize)) return true;
+    if (GoToStart(file) && WriteAll(file, text) && SetSizeAndSync(file, newSize)) return true;
     const int error = errno;
-    const bool isBack = (!copy || CopyAll(*copy, file)) && Settle(file, size);
+    const bool isBack = (!copy || CopyAll(*copy, file)) && SetSizeAndSync(file, size);
     if (copy && !isBack) copy->Keep();
     errno = error;
     return false;
@@ -194,7 +196,7 @@ FileError CreateTextFile(const std::string& path, const std::string& text) {
 FileError WriteTextFile(const std::string& path, const std::string& text) {
     errno = 0;
     OpenFile old(path, O_WRONLY);
-    // No file, or a link that leads nowhere.
+    // No file, or a link without a target.
     if (!old.IsOpen() && errno == ENOENT) return WriteNew(path, text, O_TRUNC);
     if (!old.IsOpen()) return FileErrorOfOpening(path, errno);
     const mode_t mode = old.State().st_mode;

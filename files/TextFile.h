@@ -4,19 +4,19 @@
 
 #include <string>
 
-/// Writing whole text files. After a failure, errno is what the system calls it, or 0 if no system
-/// call failed.
+/// Writing whole text files. After a failure, errno is the error number of the system, or 0 if no
+/// system call failed.
 namespace brastel {
 
-/// Writes a new file. Fails with errno EEXIST if the name exists, also as a link that leads
-/// nowhere. Another failure can leave a part of the new file behind.
+/// Writes a new file. Fails with errno EEXIST if the name exists, even as a link without a target.
+/// After another failure, a part of the new file can remain.
 FileError CreateTextFile(const std::string& path, const std::string& text);
 
-/// Writes a file, new or not, or to a device. An existing file is replaced in one step by a new one
-/// with its owner and mode: it is whole even if the program is killed. Where that is not possible
-/// (the folder is not writable, the file has several names, an access list or a foreign owner), it
-/// is overwritten: a failure puts its content back, and if the program is killed, a copy is on
-/// disk.
+/// Writes a new or existing file, or to a device. An existing file is replaced in one step by a new
+/// file with the same owner and mode, so it is complete even if the program is killed. This is not
+/// possible if the folder is not writable, or if the file has several names, an access list or a
+/// foreign owner. Then the file is overwritten: after a failure its old content is restored, and if
+/// the program is killed, a copy is on disk.
 FileError WriteTextFile(const std::string& path, const std::string& text);
 
 }  // namespace brastel
