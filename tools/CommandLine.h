@@ -12,10 +12,10 @@
 #include <string>
 #include <vector>
 
-/// How the companions of the game read their arguments.
+/// Reads the arguments of the programs brastel-match and brastel-record.
 namespace brastel {
 
-/// CLI11 would take a file [a,b] for the files a and b, and reads the same file from ./[a,b].
+/// CLI11 reads an argument [a,b] as a list of two files. With ./ before it, it is one file name.
 inline std::string WithoutList(std::string argument) {
     const bool isOption = argument.starts_with("--");
     const std::size_t value = isOption ? argument.find("=[") + 1 : 0;
@@ -23,12 +23,12 @@ inline std::string WithoutList(std::string argument) {
     return isList ? argument.insert(value, "./") : argument;
 }
 
-/// Reads the arguments. Where the program has nothing more to do, its exit status: help or the
-/// version has been printed, or a complaint about an argument.
+/// Reads the arguments. Returns an exit status if the program must end: after printing help, the
+/// version or an error message.
 inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* const* texts) {
     std::vector<std::string> arguments(texts + 1, texts + count);
     std::ranges::transform(arguments, arguments.begin(), WithoutList);
-    // CLI11 takes the first argument from the back.
+    // CLI11 expects the arguments in reverse order.
     std::ranges::reverse(arguments);
     try {
         app.parse(arguments);

@@ -2,7 +2,7 @@
 
 namespace brastel {
 
-/// How the companions of the game end.
+/// Exit statuses of brastel-match and brastel-record.
 enum ExitStatus {
     Done = 0,
     /// A record is damaged or breaks the rules.

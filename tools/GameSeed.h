@@ -4,7 +4,7 @@
 
 namespace brastel {
 
-/// A seed for each game of a run: those of neighbours have nothing in common.
+/// The seed of one game of a run. Seeds of consecutive games are independent of each other.
 inline std::uint32_t SeedOf(std::uint64_t seed, std::uint64_t game) {
     std::uint64_t mixed = seed * 0x9e3779b97f4a7c15 + game;
     mixed = (mixed ^ mixed >> 30) * 0xbf58476d1ce4e5b9;

@@ -2,13 +2,14 @@
 
 #include <csignal>
 
+/// Signals that ask a program to end.
 namespace brastel {
 
-/// Set by SIGINT, SIGTERM and SIGHUP once they are watched.
+/// Set by SIGINT, SIGTERM and SIGHUP after WatchInterrupts.
 inline volatile std::sig_atomic_t Interrupted = 0;
 
-/// From now on SIGINT, SIGTERM and SIGHUP ask for a clean end instead of ending the program. Calls
-/// of the system that wait come back with EINTR. Under nohup, SIGHUP stays ignored.
+/// From now on SIGINT, SIGTERM and SIGHUP set Interrupted instead of ending the program. System
+/// calls that wait return EINTR. Under nohup, SIGHUP stays ignored.
 inline void WatchInterrupts() {
     struct sigaction action {};
     struct sigaction former {};

@@ -7,18 +7,19 @@
 #include <string>
 #include <string_view>
 
+/// Texts for a terminal, without control characters.
 namespace brastel {
 
-/// Bytes of the first character, or 0 if it may not be shown: a control character, a line
-/// separator, a mark that changes the direction of writing, or a byte that is not UTF-8.
-inline std::size_t ShownLength(std::string_view text) {
+/// Length in bytes of the first character, or 0 if it must not be printed: a control character, a
+/// line separator, a mark that changes the direction of writing, or a byte that is not UTF-8.
+inline std::size_t PrintableLength(std::string_view text) {
     struct Range {
         char32_t First;
         char32_t Last;
     };
     constexpr std::array<Range, 5> Hidden{
         {{0, 0x1f}, {0x7f, 0x9f}, {0x2028, 0x202e}, {0x2066, 0x2069}, {0xd800, 0xdfff}}};
-    /// A smaller code has a shorter form.
+    /// The smallest code for each length in bytes. A smaller code is not valid UTF-8.
     constexpr std::array<char32_t, 5> Least{0, 0, 0x80, 0x800, 0x10000};
 
     const auto lead = static_cast<unsigned char>(text.front());
@@ -36,12 +37,12 @@ inline std::size_t ShownLength(std::string_view text) {
     return code < Least[length] || std::ranges::any_of(Hidden, holds) ? 0 : length;
 }
 
-/// The text for a terminal: what may not be shown as `\x` and two digits for each byte, so that no
-/// file name can fake a message.
+/// The text for a terminal. Bytes that must not be printed become `\x` and two digits, so that no
+/// file name can imitate a message.
 inline std::string Printable(std::string_view text) {
     std::string shown;
     while (!text.empty()) {
-        const std::size_t length = ShownLength(text);
+        const std::size_t length = PrintableLength(text);
         std::array<char, 5> escape{};
         std::snprintf(escape.data(), escape.size(), "\\x%02x",
                       static_cast<unsigned>(static_cast<unsigned char>(text.front())));

@@ -8,7 +8,7 @@
 
 namespace brastel {
 
-/// The whole number that the text is, unless it is none or lies beyond the bounds.
+/// The whole number in the text. Nothing if it is not one, or not from `least` to `most`.
 template <typename Number = std::int64_t>
 std::optional<Number> ReadNumber(std::string_view text, std::type_identity_t<Number> least,
                                  std::type_identity_t<Number> most, int base = 10) {

@@ -12,28 +12,28 @@ namespace brastel {
 
 namespace {
 
-/// 95 of 100 values of a normal distribution lie within as many standard deviations.
-constexpr double Confidence = 1.959964;
-/// How often a bound is overstepped.
-constexpr double Doubt = 0.05;
+/// 95 of 100 values of a normal distribution are within this number of standard deviations.
+constexpr double Deviations = 1.959964;
+/// How often a smaller true difference may lead to the same bound.
+constexpr double ErrorRate = 0.05;
 /// Half a point, squared.
-constexpr double LeastSquares = 0.25;
-/// Of what is read: far beyond any match.
-constexpr double MostPoints = 100000;
+constexpr double MinSumOfSquares = 0.25;
+/// Limit for points that are read, more than any match gives.
+constexpr double MaxPoints = 100000;
 
 constexpr double PointsPerNaturalUnit = 400 / std::numbers::ln10;
 
 double PointsOf(double score) { return PointsPerNaturalUnit * std::log(score / (1 - score)); }
 
-/// Of the mean of the results.
+/// The standard error of the mean of the results.
 double StandardErrorOf(std::span<const double> results, double mean) {
     double squares = 0;
     for (const double result : results) squares += (result - mean) * (result - mean);
     const double count = static_cast<double>(results.size());
-    return std::sqrt(std::max(squares, LeastSquares) / std::max(count - 1, 1.0) / count);
+    return std::sqrt(std::max(squares, MinSumOfSquares) / std::max(count - 1, 1.0) / count);
 }
 
-Certainty Either(Certainty a, Certainty b) {
+Certainty KindOfSum(Certainty a, Certainty b) {
     if (a == b || b == Certainty::Estimate) return a;
     return a == Certainty::Estimate ? b : Certainty::Unknown;
 }
@@ -53,8 +53,8 @@ std::optional<double> ReadPoints(std::string_view text) {
     double points = 0;
     const char* const end = text.data() + text.size();
     const auto [stop, error] = std::from_chars(text.data(), end, points);
-    // No comparison holds for what is no number.
-    const bool isRight = error == std::errc() && stop == end && std::abs(points) <= MostPoints;
+    // The comparison is false for NaN.
+    const bool isRight = error == std::errc() && stop == end && std::abs(points) <= MaxPoints;
     return isRight ? std::optional(points) : std::nullopt;
 }
 
@@ -62,17 +62,17 @@ std::optional<double> ReadPoints(std::string_view text) {
 
 Elo EloOf(double mean, std::span<const double> results) {
     if (results.empty()) return {0, 0, Certainty::Unknown};
-    const double bound = PointsOf(std::pow(Doubt, 1 / static_cast<double>(results.size())));
+    const double bound = PointsOf(std::pow(ErrorRate, 1 / static_cast<double>(results.size())));
     if (mean >= 1) return {bound, 0, Certainty::AtLeast};
     if (mean <= 0) return {-bound, 0, Certainty::AtMost};
     const double slope = PointsPerNaturalUnit / (mean * (1 - mean));
-    return {PointsOf(mean), Confidence * slope * StandardErrorOf(results, mean),
+    return {PointsOf(mean), Deviations * slope * StandardErrorOf(results, mean),
             Certainty::Estimate};
 }
 
 Elo Sum(const Elo& lower, const Elo& upper) {
     const double points = lower.Points + upper.Points;
-    const Certainty kind = Either(lower.Kind, upper.Kind);
+    const Certainty kind = KindOfSum(lower.Kind, upper.Kind);
     if (kind == Certainty::AtLeast) return {points - lower.Error - upper.Error, 0, kind};
     if (kind == Certainty::AtMost) return {points + lower.Error + upper.Error, 0, kind};
     return {points, std::hypot(lower.Error, upper.Error), kind};

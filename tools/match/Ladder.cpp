@@ -44,7 +44,7 @@ LadderCells CellsOf(Int16 level, const ThinkingTime& time) {
 LadderCells CellsOf(Int16 level, const MatchScore& score) {
     LadderCells cells = CellsOf(level, score.First);
     cells[ScoreColumn] = Format("%.1f", 100 * MeanOf(score));
-    cells[StepColumn] = EloText(score.Difference);
+    cells[DifferenceColumn] = EloText(score.Difference);
     cells[5] = Format("%d / %d / %d", score.Wins, score.Draws, score.Losses);
     cells[6] = Format("%d / %d", WinsByRed(score), WinsByBlue(score));
     cells[7] = std::to_string(score.DifferentGames);
@@ -52,20 +52,20 @@ LadderCells CellsOf(Int16 level, const MatchScore& score) {
     return cells;
 }
 
-void AddFoot(Ladder& ladder, Int16 level, const LadderCells& cells) {
-    ladder.Rungs.push_back({level, {}, cells});
-    // Not by a literal, at which gcc 12 sees an overlap that is none.
-    ladder.Rungs.back().Cells[HeightColumn].assign(1, '0');
+void AddLowest(Ladder& ladder, Int16 level, const LadderCells& cells) {
+    ladder.Entries.push_back({level, {}, cells});
+    // Not ="0": gcc 12 wrongly warns of overlapping memory.
+    ladder.Entries.back().Cells[RatingColumn].assign(1, '0');
 }
 
-/// The height adds up from what the cells tell, so that a ladder stays the same when it is joined.
-/// False if they tell no difference.
-bool AddRung(Ladder& ladder, Int16 level, const LadderCells& cells) {
-    const auto step = ReadElo(cells[StepColumn]);
+/// The rating is the sum of the differences in the cells, as rounded there, so a joined ladder
+/// equals one that was played at once. False if a cell has no difference.
+bool AddEntry(Ladder& ladder, Int16 level, const LadderCells& cells) {
+    const auto step = ReadElo(cells[DifferenceColumn]);
     if (!step) return false;
-    const Elo height = Sum(ladder.Rungs.back().Height, *step);
-    ladder.Rungs.push_back({level, height, cells});
-    ladder.Rungs.back().Cells[HeightColumn] = EloText(height);
+    const Elo rating = Sum(ladder.Entries.back().Rating, *step);
+    ladder.Entries.push_back({level, rating, cells});
+    ladder.Entries.back().Cells[RatingColumn] = EloText(rating);
     return true;
 }
 
@@ -77,7 +77,7 @@ std::string Trimmed(const std::string& text) {
     return text.substr(first, text.find_last_not_of(" \t\r") - first + 1);
 }
 
-/// The cells of a line of the table; none if it has not got as many.
+/// The cells of a line of the table. Nothing if their number is wrong.
 std::optional<LadderCells> ReadCells(const std::string& line) {
     std::istringstream rest(Trimmed(line));
     LadderCells cells;
@@ -92,39 +92,38 @@ std::optional<LadderCells> ReadCells(const std::string& line) {
 
 std::string DoesNotFollow(const Ladder& ladder, int level) {
     return StrengthName(level) + " does not follow on " +
-           (ladder.Rungs.empty() ? "anything" : StrengthName(ladder.Rungs.back().Level));
+           (ladder.Entries.empty() ? "anything" : StrengthName(ladder.Entries.back().Level));
 }
 
-/// The rows of one text, which begins at its foot. Each operation returns what is wrong, or
-/// nothing.
-class Part {
+/// Adds the rows of one text to a ladder. Each operation returns the error, or nothing.
+class LadderReader {
 public:
-    explicit Part(Ladder& ladder) : Whole(ladder) {}
+    explicit LadderReader(Ladder& ladder) : Whole(ladder) {}
 
     std::string Begin(const std::string& terms) {
         HasTerms = true;
-        if (Whole.Rungs.empty()) Whole.Terms = terms;
+        if (Whole.Entries.empty()) Whole.Terms = terms;
         if (terms == Whole.Terms) return {};
         return "its terms are \"" + terms + "\" and not \"" + Whole.Terms + '"';
     }
-    /// Numbers above the captions belong to something else.
+    /// Rows before the captions belong to another table and are ignored.
     std::string Join(Int16 level, const LadderCells& cells) {
         if (!HasTerms) return {};
-        const bool isFoot = cells[StepColumn].empty();
-        if (isFoot && Whole.Rungs.empty()) AddFoot(Whole, level, cells);
+        const bool isLowest = cells[DifferenceColumn].empty();
+        if (isLowest && Whole.Entries.empty()) AddLowest(Whole, level, cells);
         const bool follows =
-            (isFoot || HasFoot) && Whole.Rungs.back().Level == (isFoot ? level : level - 1);
+            (isLowest || HasLowest) && Whole.Entries.back().Level == (isLowest ? level : level - 1);
         if (!follows) return DoesNotFollow(Whole, level);
-        HasFoot = true;
-        if (isFoot || AddRung(Whole, level, cells)) return {};
+        HasLowest = true;
+        if (isLowest || AddEntry(Whole, level, cells)) return {};
         return "how much stronger " + StrengthName(level) + " is cannot be read";
     }
-    bool IsEmpty() const { return !HasFoot; }
+    bool IsEmpty() const { return !HasLowest; }
 
 private:
     Ladder& Whole;
     bool HasTerms = false;
-    bool HasFoot = false;
+    bool HasLowest = false;
 };
 
 }  // namespace
@@ -134,36 +133,37 @@ Ladder BeginLadder(const MatchTerms& terms) {
 }
 
 void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score) {
-    if (ladder.Rungs.empty()) AddFoot(ladder, terms.Second, CellsOf(terms.Second, score.Second));
-    AddRung(ladder, terms.First, CellsOf(terms.First, score));
+    if (ladder.Entries.empty())
+        AddLowest(ladder, terms.Second, CellsOf(terms.Second, score.Second));
+    AddEntry(ladder, terms.First, CellsOf(terms.First, score));
 }
 
 std::string LadderHead(const Ladder& ladder) {
     return ladder.Terms + "\n\n" + TableLine(Captions) + RuleBelowCaptions();
 }
 
-std::string LadderRow(const Rung& rung) { return TableLine(rung.Cells); }
+std::string LadderRow(const LadderEntry& entry) { return TableLine(entry.Cells); }
 
 std::string LadderText(const Ladder& ladder) {
     std::string text = LadderHead(ladder);
-    for (const Rung& rung : ladder.Rungs) text += LadderRow(rung);
+    for (const LadderEntry& entry : ladder.Entries) text += LadderRow(entry);
     return text;
 }
 
 std::string JoinLadder(Ladder& ladder, const std::string& text) {
     std::istringstream lines(text);
-    Part part(ladder);
+    LadderReader reader(ladder);
     for (std::string line, last; std::getline(lines, line);) {
         const auto cells = ReadCells(line);
         std::string wrong;
         const auto level = cells ? ReadNumber((*cells)[LevelColumn], 1, MaxPly) : std::nullopt;
-        if (level) wrong = part.Join(ToInt16(static_cast<int>(*level)), *cells);
+        if (level) wrong = reader.Join(ToInt16(static_cast<int>(*level)), *cells);
         // The terms are the last line before the table.
-        if (cells && *cells == Captions) wrong = part.Begin(last);
+        if (cells && *cells == Captions) wrong = reader.Begin(last);
         if (!wrong.empty()) return wrong;
         if (!Trimmed(line).empty()) last = Trimmed(line);
     }
-    return part.IsEmpty() ? "there is no ladder in it" : "";
+    return reader.IsEmpty() ? "there is no ladder in it" : "";
 }
 
 }  // namespace brastel

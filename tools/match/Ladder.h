@@ -6,50 +6,51 @@
 #include <string>
 #include <vector>
 
-/// The strengths one above the other, each measured against the one below.
+/// The ladder: all strengths from the lowest up, each measured in a match against the one below.
 namespace brastel {
 
-/// The table has more columns than these.
+/// Columns of the table that the program reads again. It has more columns.
 enum LadderColumn : std::size_t {
     LevelColumn,
     NameColumn,
     ScoreColumn,
-    StepColumn,
-    HeightColumn,
+    DifferenceColumn,
+    RatingColumn,
     LadderColumns = 11
 };
 using LadderCells = std::array<std::string, LadderColumns>;
 
-struct Rung {
+struct LadderEntry {
     Int16 Level = 0;
-    /// Above the foot.
-    Elo Height;
+    /// The difference to the lowest strength of the ladder.
+    Elo Rating;
     /// The row of the table.
     LadderCells Cells;
 };
 
 struct Ladder {
-    /// What was played, in a sentence.
+    /// A sentence that says what was played.
     std::string Terms;
-    std::vector<Rung> Rungs;
+    /// From the lowest strength up.
+    std::vector<LadderEntry> Entries;
 };
 
-/// An empty ladder. Which strengths play, and how often, is left to each match.
+/// An empty ladder for matches with these terms. The two strengths in the terms are not used.
 Ladder BeginLadder(const MatchTerms& terms);
 
-/// Puts the first strength of a match on top. The second one is on top before, or stands at the
-/// foot from now on.
+/// Adds the first strength of a match at the top. The second strength must be the topmost before;
+/// in an empty ladder it becomes the lowest.
 void AddMatch(Ladder& ladder, const MatchTerms& terms, const MatchScore& score);
 
 // ---- As text: the terms and a Markdown table ----
 
 std::string LadderHead(const Ladder& ladder);
-std::string LadderRow(const Rung& rung);
+std::string LadderRow(const LadderEntry& entry);
 std::string LadderText(const Ladder& ladder);
 
-/// Puts the rungs of such a text on top; its foot must be the topmost strength before, if there is
-/// any, and its terms the same. The heights are added up anew. Whatever else it holds is passed
-/// over. Returns what is wrong with it, or nothing.
+/// Reads a ladder from a text and adds its entries at the top. Its lowest strength must be the
+/// topmost strength of `ladder`, if there is one, and its terms must be the same. The ratings are
+/// computed again. Other text is ignored. Returns the error, or nothing.
 std::string JoinLadder(Ladder& ladder, const std::string& text);
 
 }  // namespace brastel

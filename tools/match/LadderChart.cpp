@@ -15,21 +15,21 @@ namespace {
 constexpr double Width = 860;
 constexpr double Top = 126;
 constexpr double RowHeight = 34;
-/// Below the lowest row: the numbers of the axis and what they mean.
-constexpr double Foot = 64;
+/// Space below the lowest row for the numbers and the text of the axis.
+constexpr double AxisHeight = 64;
 constexpr double PlotLeft = 128;
 constexpr double NameGap = 16;
 constexpr double PlotRight = 704;
 /// Margin of the texts at both sides.
 constexpr double Margin = 24;
-constexpr double TextDrop = 4.5;
+constexpr double BaselineOffset = 4.5;
 /// Characters of the first line of terms.
 constexpr std::size_t TermsLength = 64;
 constexpr double CapHeight = 5;
 constexpr double Radius = 5;
 constexpr double ArrowLength = 34;
 
-/// Two colour schemes; the picture is read without its page, too, so it has a ground of its own.
+/// Two colour schemes. The picture has its own background, because it is also shown without a page.
 constexpr const char* Style = R"(  <style>
     .ground { fill: #ffffff }
     text { fill: #57606a; font: 13px system-ui, "Segoe UI", "DejaVu Sans", sans-serif }
@@ -58,7 +58,7 @@ constexpr const char* Style = R"(  <style>
   </style>
 )";
 
-/// The points at the ends of the axis, both ticks, and between one tick and the next.
+/// The points at both ends of the axis, where ticks are, and the points between two ticks.
 struct Axis {
     double Least;
     double Most;
@@ -69,7 +69,7 @@ struct Axis {
     }
 };
 
-/// One, two or five, and zeros, so that there are about seven.
+/// 1, 2 or 5 times a power of ten, for about seven ticks.
 double TickStep(double span) {
     const double rough = span / 7;
     const double power = std::pow(10, std::floor(std::log10(rough)));
@@ -82,10 +82,10 @@ double TickStep(double span) {
 Axis AxisOf(const Ladder& ladder) {
     double least = 0;
     double most = 10;
-    for (const Rung& rung : ladder.Rungs) {
-        if (rung.Height.Kind == Certainty::Unknown) continue;
-        least = std::min(least, rung.Height.Points - rung.Height.Error);
-        most = std::max(most, rung.Height.Points + rung.Height.Error);
+    for (const LadderEntry& entry : ladder.Entries) {
+        if (entry.Rating.Kind == Certainty::Unknown) continue;
+        least = std::min(least, entry.Rating.Points - entry.Rating.Error);
+        most = std::max(most, entry.Rating.Points + entry.Rating.Error);
     }
     const double step = TickStep(most - least);
     return {std::floor(least / step) * step, std::ceil(most / step) * step, step};
@@ -93,7 +93,7 @@ Axis AxisOf(const Ladder& ladder) {
 
 // ---- Elements ----
 
-/// A text in XML.
+/// The text with the reserved characters of XML replaced.
 std::string Escaped(const std::string& text) {
     std::string escaped;
     for (const char byte : text) {
@@ -111,29 +111,29 @@ std::string Escaped(const std::string& text) {
     return escaped;
 }
 
-std::string Text(const char* kind, double x, double y, const std::string& text) {
+std::string TextElement(const char* kind, double x, double y, const std::string& text) {
     return Format("  <text class=\"%s\" x=\"%.1f\" y=\"%.1f\">", kind, x, y) + Escaped(text) +
            "</text>\n";
 }
 
-std::string Line(const char* kind, double x1, double y1, double x2, double y2) {
+std::string LineElement(const char* kind, double x1, double y1, double x2, double y2) {
     return Format("  <line class=\"%s\" x1=\"%.1f\" y1=\"%.1f\" x2=\"%.1f\" y2=\"%.1f\"/>\n", kind,
                   x1, y1, x2, y2);
 }
 
-/// In two lines, so that it fits.
+/// The terms in two lines, because they are too long for one.
 std::string TermsLines(const std::string& terms) {
     const std::size_t comma = terms.rfind(", ", TermsLength);
     const std::size_t end = comma == std::string::npos ? terms.size() : comma + 2;
-    return Text("terms", Margin, 64, terms.substr(0, end)) +
-           Text("terms", Margin, 81, terms.substr(end));
+    return TextElement("terms", Margin, 64, terms.substr(0, end)) +
+           TextElement("terms", Margin, 81, terms.substr(end));
 }
 
 double RowOf(const Ladder& ladder, std::size_t n) {
-    return Top + RowHeight * (static_cast<double>(ladder.Rungs.size() - n) - 0.5);
+    return Top + RowHeight * (static_cast<double>(ladder.Entries.size() - n) - 0.5);
 }
 double Bottom(const Ladder& ladder) {
-    return Top + RowHeight * static_cast<double>(ladder.Rungs.size());
+    return Top + RowHeight * static_cast<double>(ladder.Entries.size());
 }
 
 std::string Grid(const Ladder& ladder, const Axis& axis) {
@@ -143,32 +143,32 @@ std::string Grid(const Ladder& ladder, const Axis& axis) {
     for (int n = 0; n <= ticks; ++n) {
         const double points = axis.Least + n * axis.Step;
         const double x = axis.At(points);
-        grid += Line(points == 0 ? "zero" : "grid", x, Top, x, bottom);
-        grid += Text("tick", x, bottom + 20, Format("%.0f", points));
+        grid += LineElement(points == 0 ? "zero" : "grid", x, Top, x, bottom);
+        grid += TextElement("tick", x, bottom + 20, Format("%.0f", points));
     }
     return grid;
 }
 
-/// From rung to rung, as far as they are known.
+/// The line from strength to strength, up to the first unknown rating.
 std::string Steps(const Ladder& ladder, const Axis& axis) {
     std::string points;
-    for (std::size_t n = 0; n < ladder.Rungs.size(); ++n) {
-        const Elo& height = ladder.Rungs[n].Height;
-        if (height.Kind == Certainty::Unknown) break;
-        points += Format("%.1f,%.1f ", axis.At(height.Points), RowOf(ladder, n));
+    for (std::size_t n = 0; n < ladder.Entries.size(); ++n) {
+        const Elo& rating = ladder.Entries[n].Rating;
+        if (rating.Kind == Certainty::Unknown) break;
+        points += Format("%.1f,%.1f ", axis.At(rating.Points), RowOf(ladder, n));
     }
     return "  <polyline class=\"steps\" points=\"" + points + "\"/>\n";
 }
 
 std::string ErrorBar(double left, double right, double y) {
-    std::string bar = Line("error", left, y, right, y);
+    std::string bar = LineElement("error", left, y, right, y);
     for (const double x : {left, right}) {
-        bar += Line("error", x, y - CapHeight, x, y + CapHeight);
+        bar += LineElement("error", x, y - CapHeight, x, y + CapHeight);
     }
     return bar;
 }
 
-/// To the right or, for a negative length, to the left.
+/// An arrow to the right, or to the left if the length is negative.
 std::string Arrow(double x, double y, double length) {
     const double barb = std::copysign(CapHeight + 1, length);
     return Format(
@@ -177,12 +177,12 @@ std::string Arrow(double x, double y, double length) {
         x, y, length, -barb, CapHeight, barb, CapHeight, -barb, CapHeight);
 }
 
-std::string Mark(const Rung& rung, const Axis& axis, double y) {
-    const Elo& height = rung.Height;
-    const double x = axis.At(height.Points);
+std::string Mark(const LadderEntry& entry, const Axis& axis, double y) {
+    const Elo& rating = entry.Rating;
+    const double x = axis.At(rating.Points);
     std::string circle =
         Format("  <circle class=\"mark\" cx=\"%.1f\" cy=\"%.1f\" r=\"%.1f\"/>\n", x, y, Radius);
-    switch (height.Kind) {
+    switch (rating.Kind) {
         case Certainty::Unknown:
             return {};
         case Certainty::AtLeast:
@@ -192,21 +192,22 @@ std::string Mark(const Rung& rung, const Axis& axis, double y) {
         case Certainty::Estimate:
             break;
     }
-    if (height.Error == 0) return circle;
-    return ErrorBar(axis.At(height.Points - height.Error), axis.At(height.Points + height.Error),
+    if (rating.Error == 0) return circle;
+    return ErrorBar(axis.At(rating.Points - rating.Error), axis.At(rating.Points + rating.Error),
                     y) +
            circle;
 }
 
 std::string Rows(const Ladder& ladder, const Axis& axis) {
-    std::string rows = Text("name caption", PlotLeft - NameGap, Top - 10, "Strength") +
-                       Text("value caption", Width - Margin, Top - 10, "Elo points");
-    for (std::size_t n = 0; n < ladder.Rungs.size(); ++n) {
-        const Rung& rung = ladder.Rungs[n];
+    std::string rows = TextElement("name caption", PlotLeft - NameGap, Top - 10, "Strength") +
+                       TextElement("value caption", Width - Margin, Top - 10, "Elo points");
+    for (std::size_t n = 0; n < ladder.Entries.size(); ++n) {
+        const LadderEntry& entry = ladder.Entries[n];
         const double y = RowOf(ladder, n);
-        rows += Text("name", PlotLeft - NameGap, y + TextDrop, StrengthName(rung.Level));
-        rows += Mark(rung, axis, y);
-        rows += Text("value", Width - Margin, y + TextDrop, rung.Cells[HeightColumn]);
+        rows +=
+            TextElement("name", PlotLeft - NameGap, y + BaselineOffset, StrengthName(entry.Level));
+        rows += Mark(entry, axis, y);
+        rows += TextElement("value", Width - Margin, y + BaselineOffset, entry.Cells[RatingColumn]);
     }
     return rows;
 }
@@ -214,11 +215,11 @@ std::string Rows(const Ladder& ladder, const Axis& axis) {
 }  // namespace
 
 std::string LadderChart(const Ladder& ladder) {
-    if (ladder.Rungs.empty()) return {};
+    if (ladder.Entries.empty()) return {};
     const Axis axis = AxisOf(ladder);
-    const double height = Bottom(ladder) + Foot;
+    const double height = Bottom(ladder) + AxisHeight;
     const std::string title = "How strong the computer plays";
-    const std::string unit = "Elo points above " + StrengthName(ladder.Rungs.front().Level) +
+    const std::string unit = "Elo points above " + StrengthName(ladder.Entries.front().Level) +
                              ", with 95 % error bars that add up on the way up";
     return Format(
                "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %.0f %.0f\" "
@@ -226,9 +227,9 @@ std::string LadderChart(const Ladder& ladder) {
                Width, height, Width, height) +
            "  <title>" + title + "</title>\n" + Style +
            "  <rect class=\"ground\" width=\"100%\" height=\"100%\"/>\n" +
-           Text("title", Margin, 40, title) + TermsLines(ladder.Terms) + Grid(ladder, axis) +
+           TextElement("title", Margin, 40, title) + TermsLines(ladder.Terms) + Grid(ladder, axis) +
            Steps(ladder, axis) + Rows(ladder, axis) +
-           Text("axis", (PlotLeft + PlotRight) / 2, height - 20, unit) + "</svg>\n";
+           TextElement("axis", (PlotLeft + PlotRight) / 2, height - 20, unit) + "</svg>\n";
 }
 
 }  // namespace brastel

@@ -4,9 +4,9 @@
 
 namespace brastel {
 
-/// The ladder as an SVG picture, for light and dark pages: a line for each strength, the lowest at
-/// the foot, with its Elo points above the foot and their error. A mere bound is an arrow, an
-/// unknown value has no mark.
+/// The ladder as an SVG picture, for light and dark pages. Each strength has a line, the lowest at
+/// the bottom, with its Elo points above the lowest strength and their error bar. A bound is an
+/// arrow. An unknown value has no mark.
 std::string LadderChart(const Ladder& ladder);
 
 }  // namespace brastel

@@ -1,4 +1,4 @@
-/// Plays strengths of the computer player against each other.
+/// The program brastel-match: plays strengths of the computer player against each other.
 
 #include "files/TextFile.h"
 #include "tools/ExitStatus.h"
@@ -25,7 +25,7 @@ namespace {
 
 using namespace brastel;
 
-int Complain(const std::string& what, int status) {
+int ReportError(const std::string& what, int status) {
     std::fprintf(stderr, "brastel-match: %s\n", Printable(what).c_str());
     return status;
 }
@@ -34,10 +34,10 @@ int Complain(const std::string& what, int status) {
 
 int CannotWrite(const std::string& path) {
     const std::string name = path.empty() ? "standard output" : path;
-    return Complain("cannot write " + name + ": " + std::strerror(errno), CannotDo);
+    return ReportError("cannot write " + name + ": " + std::strerror(errno), CannotDo);
 }
 
-/// What the file holds stays as it is; one that does not exist is made only to try.
+/// Does not change the file. A file that does not exist is created and removed again.
 bool CanWrite(const std::string& path) {
     std::FILE* file = std::fopen(path.c_str(), "wx");
     const bool isNew = file != nullptr;
@@ -46,7 +46,7 @@ bool CanWrite(const std::string& path) {
     return !isNew || std::remove(path.c_str()) == 0;
 }
 
-/// By two names of any kind, whether it exists or not. Both can be written.
+/// True if both paths name the same file, existing or not. CanWrite must be true for both.
 bool IsSameFile(const std::string& a, const std::string& b) {
     namespace fs = std::filesystem;
     std::error_code ignored;
@@ -57,7 +57,7 @@ bool IsSameFile(const std::string& a, const std::string& b) {
     return fs::equivalent(a, b, ignored) || place(a) == place(b);
 }
 
-/// Replaces a file whole, or writes to standard output if the path is empty, to a pipe or a device.
+/// Replaces a file, or writes to a pipe or device, or to standard output if the path is empty.
 int WriteText(const std::string& path, const std::string& text) {
     std::error_code ignored;
     if (!path.empty() && !std::filesystem::is_other(path, ignored)) {
@@ -70,10 +70,10 @@ int WriteText(const std::string& path, const std::string& text) {
     return isWritten && isClosed ? Done : CannotWrite(path);
 }
 
-/// Far more than a ladder and what is said about it.
-constexpr std::size_t MostBytes = 1 << 20;
+/// Limit for a file with a ladder, which is much smaller.
+constexpr std::size_t MaxBytes = 1 << 20;
 
-/// Nothing, and the cause in errno, where the file cannot be read to its end or is too large.
+/// Returns nothing and sets errno if the file cannot be read to its end or is too large.
 std::optional<std::string> ReadText(const std::string& path) {
     std::FILE* const file = std::fopen(path.c_str(), "r");
     if (file == nullptr) return std::nullopt;
@@ -81,15 +81,15 @@ std::optional<std::string> ReadText(const std::string& path) {
     std::array<char, 4096> part{};
     while (const std::size_t count = std::fread(part.data(), 1, part.size(), file)) {
         text.append(part.data(), count);
-        if (text.size() > MostBytes) break;
+        if (text.size() > MaxBytes) break;
     }
-    const int error = text.size() > MostBytes ? EFBIG : std::ferror(file) == 0 ? 0 : errno;
+    const int error = text.size() > MaxBytes ? EFBIG : std::ferror(file) == 0 ? 0 : errno;
     std::fclose(file);
     errno = error;
     return error == 0 ? std::optional(text) : std::nullopt;
 }
 
-// ---- Progress: one line, for people only ----
+// ---- Progress: one line, only on a terminal ----
 
 class ProgressLine {
 public:
@@ -136,9 +136,9 @@ MatchEnd Play(const MatchTerms& terms, const MatchRun& run, std::vector<MatchGam
 
 int NotSaved(const std::vector<MatchGame>& games, const std::string& folder) {
     const auto game = std::ranges::find_if(games, &MatchGame::SaveError);
-    return Complain("cannot save game " + std::to_string(game->Number) + " in " + folder + ": " +
-                        std::strerror(game->SaveError),
-                    CannotDo);
+    return ReportError("cannot save game " + std::to_string(game->Number) + " in " + folder + ": " +
+                           std::strerror(game->SaveError),
+                       CannotDo);
 }
 
 int StatusOf(MatchEnd end, const std::vector<MatchGame>& games, const MatchTerms& terms,
@@ -148,8 +148,8 @@ int StatusOf(MatchEnd end, const std::vector<MatchGame>& games, const MatchTerms
     const std::string played = "after " + std::to_string(games.size()) + " of " +
                                std::to_string(run.Games) + " games of " +
                                StrengthName(terms.First) + " against " + StrengthName(terms.Second);
-    if (end == MatchEnd::Stopped) return Complain("interrupted " + played, WasInterrupted);
-    return Complain("a playing process failed " + played, SystemFailed);
+    if (end == MatchEnd::Stopped) return ReportError("interrupted " + played, WasInterrupted);
+    return ReportError("a worker process failed " + played, SystemFailed);
 }
 
 int PlaySingle(const Options& options) {
@@ -175,12 +175,12 @@ int DrawChart(const Options& options, const Ladder& ladder) {
     return options.ChartFile.empty() ? Done : WriteText(options.ChartFile, LadderChart(ladder));
 }
 
-/// After each match, so that nothing is lost: both files as far as the ladder goes, or what is new
-/// in it to standard output.
+/// Called after each match, so that an interrupt loses only the current match. Writes the ladder so
+/// far to both files. Without a table file, prints the new rows to standard output.
 int WriteProgress(const Options& options, const Ladder& ladder) {
-    const bool isBegun = ladder.Rungs.size() > 2;
+    const bool isBegun = ladder.Entries.size() > 2;
     const bool isWhole = !options.TableFile.empty() || !isBegun;
-    const std::string text = isWhole ? LadderText(ladder) : LadderRow(ladder.Rungs.back());
+    const std::string text = isWhole ? LadderText(ladder) : LadderRow(ladder.Entries.back());
     const int status = WriteText(options.TableFile, text);
     return status != Done ? status : DrawChart(options, ladder);
 }
@@ -206,29 +206,30 @@ int JoinLadders(const Options& options) {
     Ladder ladder;
     for (const std::string& path : options.Joined) {
         const auto text = ReadText(path);
-        if (!text) return Complain("cannot read " + path + ": " + std::strerror(errno), CannotDo);
+        if (!text)
+            return ReportError("cannot read " + path + ": " + std::strerror(errno), CannotDo);
         const std::string wrong = JoinLadder(ladder, *text);
-        if (!wrong.empty()) return Complain(path + " cannot be joined: " += wrong, CannotDo);
+        if (!wrong.empty()) return ReportError(path + " cannot be joined: " += wrong, CannotDo);
     }
     const int status = WriteText(options.TableFile, LadderText(ladder));
     return status != Done ? status : DrawChart(options, ladder);
 }
 
-/// What cannot be written is told before anything is played. The folder, which may be made, comes
-/// last, so that nothing is left behind.
+/// Reports a path that cannot be written before any game is played. The folder comes last, because
+/// it may be created: an error in another path must not leave a new folder.
 int CheckPaths(const Options& options) {
     for (const std::string& path : {options.TableFile, options.ChartFile}) {
         if (!path.empty() && !CanWrite(path)) return CannotWrite(path);
     }
     if (IsSameFile(options.TableFile, options.ChartFile)) {
-        return Complain("--table and --chart name the same file", CannotDo);
+        return ReportError("--table and --chart name the same file", CannotDo);
     }
     const int first = options.Ladder ? options.From : 0;
     const int last = options.Ladder ? options.To - 1 : 0;
     for (int lower = first; lower <= last && !options.Run.Folder.empty(); ++lower) {
         const MatchTerms terms = options.Ladder ? TermsOf(options, lower) : options.Terms;
         const std::string obstacle = PrepareFolder(options.Run.Folder, terms, options.Run.Games);
-        if (!obstacle.empty()) return Complain(obstacle, CannotDo);
+        if (!obstacle.empty()) return ReportError(obstacle, CannotDo);
     }
     return Done;
 }
@@ -245,12 +246,12 @@ int Main(int count, char** texts) {
 }  // namespace
 
 int main(int count, char** texts) {
-    // Writing past a size limit is an error to report, not the end.
+    // A write beyond a size limit then fails and does not end the program.
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         return Main(count, texts);
     } catch (const std::exception& error) {
-        // Only memory can run out.
-        return Complain(error.what(), SystemFailed);
+        // The only possible cause is lack of memory.
+        return ReportError(error.what(), SystemFailed);
     }
 }

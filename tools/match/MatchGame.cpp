@@ -22,67 +22,70 @@ namespace brastel {
 
 namespace {
 
-/// Takes the time while the computer is busy. An interrupt closes this window like any other. The
-/// clock of the game leaps over the pause before a search.
+/// Measures the time while the computer thinks. An interrupt counts as closing the window. Its
+/// clock advances by a second at each call, so the pause before a search takes no time.
 class MatchView : public GameView {
 public:
-    float Thought = 0;
+    float ThinkingSeconds = 0;
 
     void ShowBusy(bool busy) override {
         const auto now = std::chrono::steady_clock::now();
         if (busy) BusySince = now;
-        Thought = std::chrono::duration<float>(now - BusySince).count();
+        ThinkingSeconds = std::chrono::duration<float>(now - BusySince).count();
     }
-    double Now() const override { return Leaping += 1; }
+    double Now() const override { return Clock += 1; }
     bool IsClosing() const override { return Interrupted != 0; }
 
 private:
     std::chrono::steady_clock::time_point BusySince;
-    mutable double Leaping = 0;
+    mutable double Clock = 0;
 };
 
 // ---- The opening ----
 
-/// The distributions of the standard library differ between machines.
-int Draw(std::mt19937& dice, int n) {
-    return static_cast<int>(dice() % static_cast<std::uint32_t>(n));
+/// A random number below n. The distributions of the standard library are not the same on all
+/// machines.
+int RandomBelow(std::mt19937& random, int n) {
+    return static_cast<int>(random() % static_cast<std::uint32_t>(n));
 }
 
-/// As a double-click does; any piece that people may choose.
-void PlaceRandomRing(std::mt19937& dice, int pieces) {
-    const int receiver = 1 + Draw(dice, std::min<int>(pieces, LastRingPiece));
+/// Gives the ring to any piece that a person may choose.
+void PlaceRandomRing(std::mt19937& random, int pieces) {
+    const int receiver = 1 + RandomBelow(random, std::min<int>(pieces, LastRingPiece));
     DoubleClickPiece({Pos.SideToMove, ToInt16(receiver)});
 }
 
-/// Without a candidate that can be played the side passes, as it does when it chooses.
-void PlayRandomMove(std::mt19937& dice) {
+/// Plays any candidate. The side passes if it has no candidate or if the candidate cannot be
+/// played.
+void PlayRandomMove(std::mt19937& random) {
     const int count = CandidateCount[1];
-    ApplyMoveShown(PlayableAction(ToInt16(count == 0 ? 0 : 1 + Draw(dice, count))));
+    ApplyMoveShown(PlayableAction(ToInt16(count == 0 ? 0 : 1 + RandomBelow(random, count))));
     CountEntry();
     CheckWin();
 }
 
-/// Two fixed strengths would play much the same game again and again: only an exact tie between
-/// moves is left to chance. An opening that ends the game is drawn again.
+/// Without a random opening, two strengths would play nearly the same game each time, because the
+/// computer chooses at random only between equal moves. An opening that ends the game is replaced
+/// by another one.
 void PlayOpening(const MatchTerms& terms, std::uint32_t seed) {
-    std::mt19937 dice(seed);
+    std::mt19937 random(seed);
     do {
         NewGameCommand();
-        while (!BothRingsPlaced()) PlaceRandomRing(dice, terms.Pieces);
-        for (int n = 0; n < 2 * terms.RandomMoves && GameOver == False; ++n) PlayRandomMove(dice);
+        while (!BothRingsPlaced()) PlaceRandomRing(random, terms.Pieces);
+        for (int n = 0; n < 2 * terms.RandomMoves && GameOver == False; ++n) PlayRandomMove(random);
     } while (GameOver != False);
 }
 
 // ---- The game ----
 
-std::uint64_t FingerprintOfRecord() {
-    std::uint64_t print = 0xcbf29ce484222325;
+std::uint64_t HashOfRecord() {
+    std::uint64_t hash = 0xcbf29ce484222325;
     for (int k = 1; k < Pos.MoveCount; ++k) {
         for (const int square : {PlayedFrom[k], PlayedTo[k]}) {
-            print = (print ^ static_cast<std::uint64_t>(square)) * 0x100000001b3;
+            hash = (hash ^ static_cast<std::uint64_t>(square)) * 0x100000001b3;
         }
     }
-    return print;
+    return hash;
 }
 
 bool PlayOn(const MatchTerms& terms, const MatchView& view, MatchGame& game) {
@@ -90,7 +93,7 @@ bool PlayOn(const MatchTerms& terms, const MatchView& view, MatchGame& game) {
         const int entry = Pos.MoveCount;
         const bool isFirst = (Pos.SideToMove == Red) == game.FirstIsRed;
         if (!PlayChosenMove(isFirst ? terms.First : terms.Second)) return false;
-        game.Seconds[entry] = view.Thought;
+        game.Seconds[entry] = view.ThinkingSeconds;
         CheckWin();
     }
     return true;
@@ -116,13 +119,13 @@ bool PlayMatchGame(const MatchTerms& terms, int number, MatchGame& game) {
     SelectStartLayout(LayoutWith(terms.Pieces));
     SetLevel(TwoPlayerLevel);
     PlayOpening(terms, SeedOf(terms.Seed, 2 * static_cast<std::uint64_t>(opening)));
-    // A new game seeds the generator by the clock, so this comes after it.
+    // After PlayOpening: a new game seeds the generator by the clock.
     SeedRandom(SeedOf(terms.Seed, 2 * static_cast<std::uint64_t>(number) + 1));
     const bool isComplete = PlayOn(terms, view, game);
     SetView(nullptr);
     game.Winner = FindWinner();
     game.Entries = ToInt16(Pos.MoveCount - 1);
-    game.Fingerprint = FingerprintOfRecord();
+    game.Hash = HashOfRecord();
     return isComplete;
 }
 

@@ -9,7 +9,7 @@ namespace {
 
 // ---- Results ----
 
-/// For the first strength.
+/// The score of the first strength.
 double ResultOf(const MatchGame& game) {
     if (game.Winner == Empty) return 0.5;
     return (game.Winner == Red) == game.FirstIsRed ? 1 : 0;
@@ -19,7 +19,7 @@ int OpeningOf(const MatchGame& game, bool paired) {
     return paired ? (game.Number + 1) / 2 : game.Number;
 }
 
-/// One for each opening.
+/// The mean score of the games of each opening.
 std::vector<double> ResultsOf(const std::vector<MatchGame>& games, bool paired) {
     std::vector<double> results;
     for (auto game = games.begin(); game != games.end();) {
@@ -70,7 +70,7 @@ MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired) {
         score.WinsAsRed += result > 0.5 && game.FirstIsRed;
         score.LossesAsRed += result < 0.5 && game.FirstIsRed;
         score.MeanLength += static_cast<double>(game.Entries) / score.Games;
-        different.insert(game.Fingerprint);
+        different.insert(game.Hash);
     }
     score.Draws = score.Games - score.Wins - score.Losses;
     score.DifferentGames = static_cast<int>(different.size());

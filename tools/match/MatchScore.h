@@ -5,7 +5,7 @@
 
 #include <vector>
 
-/// What the games of a match tell about the two strengths.
+/// The result of a match: wins, times and the difference of strength.
 namespace brastel {
 
 struct ThinkingTime {
@@ -13,30 +13,31 @@ struct ThinkingTime {
     double WorstSeconds = 0;
 };
 
-/// Seen from the first strength.
+/// Wins and losses are those of the first strength.
 struct MatchScore {
     int Games = 0;
     int Wins = 0;
     int Draws = 0;
     int Losses = 0;
-    /// Of these, those of games in which the first strength played Red.
+    /// The wins and losses in games in which the first strength played Red.
     int WinsAsRed = 0;
     int LossesAsRed = 0;
     int DifferentGames = 0;
-    /// Entries, the ring placements and the opening included.
+    /// In entries, including ring placements and opening.
     double MeanLength = 0;
     ThinkingTime First;
     ThinkingTime Second;
     Elo Difference;
 };
 
-/// What a game brought the first strength, from 0 if lost to 1 if won; 0 before the first game.
+/// The mean score of the first strength: 0 for a loss, 0.5 for a draw, 1 for a win. 0 without
+/// games.
 double MeanOf(const MatchScore& score);
 int WinsByRed(const MatchScore& score);
 int WinsByBlue(const MatchScore& score);
 
-/// Takes games with the same opening as one result for the error, if `paired`. The games are
-/// ordered by number.
+/// The score of games ordered by number. If `paired`, games 2k - 1 and 2k have the same opening and
+/// count as one result for the error.
 MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired);
 
 }  // namespace brastel

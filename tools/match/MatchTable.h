@@ -4,13 +4,14 @@
 
 #include <string>
 
+/// The result of a match as text.
 namespace brastel {
 
-/// The terms that both kinds of tables name: pieces, seed and opening.
+/// The terms that matches and ladders print: pieces, seed and opening.
 std::string TermsText(const MatchTerms& terms);
 
-/// The result of a match: what was played, a Markdown table of the two strengths and one of the
-/// match as a whole.
+/// The terms, a Markdown table of the two strengths and one of the
+/// whole match.
 std::string MatchTable(const MatchTerms& terms, const MatchScore& score);
 
 }  // namespace brastel

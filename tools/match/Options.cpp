@@ -17,7 +17,7 @@ namespace {
 
 constexpr const char* Description =
     "Plays games of one strength of the computer player against another and prints the result.\n"
-    "Each game depends on nothing but the options and its number.\n";
+    "Each game depends only on the options and its number.\n";
 
 constexpr const char* Footer = R"(A STRENGTH is a number from 1 to 11 or a name from Easy to God.
 
@@ -30,9 +30,9 @@ Examples:
 Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written, 3 the
 system failed, 130 interrupted. More in brastel-match(6).)";
 
-constexpr std::int64_t MostGames = 100'000;
-constexpr std::int64_t MostJobs = 256;
-constexpr std::int64_t MostRandomMoves = 10;
+constexpr std::int64_t MaxGames = 100'000;
+constexpr std::int64_t MaxJobs = 256;
+constexpr std::int64_t MaxRandomMoves = 10;
 
 std::string Lower(std::string text) {
     for (char& byte : text) {
@@ -49,14 +49,14 @@ std::string ReadStrength(std::string& text) {
         text = number;
         return {};
     }
-    return "\"" + text + "\" is no strength, which is 1 to 11 or a name from Easy to God";
+    return "\"" + text + "\" is not a strength: use 1 to 11 or a name from Easy to God";
 }
 
 std::string ReadPieces(std::string& text) {
     for (int layout = 0; layout < FreeSetupLayout; ++layout) {
         if (text == std::to_string(LayoutPieces(layout))) return {};
     }
-    return "\"" + text + "\" is no number of pieces, which is 2, 4, 6, 8, 10 or 12";
+    return "\"" + text + "\" is not a number of pieces: use 2, 4, 6, 8, 10 or 12";
 }
 
 std::string ReadPath(std::string& text) { return text.empty() ? "the path is empty" : ""; }
@@ -64,7 +64,7 @@ std::string ReadPath(std::string& text) { return text.empty() ? "the path is emp
 CLI::Validator IsNumber(std::int64_t least, std::int64_t most) {
     const auto read = [=](std::string& text) -> std::string {
         if (ReadNumber(text, least, most)) return {};
-        return "\"" + text + "\" is no whole number from " + std::to_string(least) + " to " +
+        return "\"" + text + "\" is not a whole number from " + std::to_string(least) + " to " +
                std::to_string(most);
     };
     return {read, ""};
@@ -74,7 +74,7 @@ const CLI::Validator IsStrength(ReadStrength, "");
 const CLI::Validator IsPieceCount(ReadPieces, "");
 const CLI::Validator IsPath(ReadPath, "");
 
-/// Adds options with the same words around them in the help.
+/// A group of options in the help.
 class OptionGroup {
 public:
     OptionGroup(CLI::App& app, std::string name) : App(app), Name(std::move(name)) {}
@@ -97,10 +97,10 @@ void AddSingleMatch(CLI::App& app, MatchTerms& terms) {
     group.Add("--red", terms.First, "STRENGTH", "strength of Red (5)")->transform(IsStrength);
     group.Add("--blue", terms.Second, "STRENGTH", "strength of Blue (3)")->transform(IsStrength);
     group.AddFlag("--alternate", terms.Alternates,
-                  "swap colours every other game, each opening being played both ways");
+                  "swap colours in every other game; play each opening twice");
 }
 
-/// What a ladder chooses by itself is left to a single match.
+/// --red, --blue and --alternate are for a single match only: a ladder sets them itself.
 void AddLadder(CLI::App& app, Options& options) {
     OptionGroup group(app, "All strengths");
     auto* const ladder =
@@ -119,8 +119,7 @@ void AddLadder(CLI::App& app, Options& options) {
         group.Add("--chart", options.ChartFile, "FILE", "draw the ladder as an SVG picture")
             ->check(IsPath),
         group
-            .Add("--join", options.Joined, "FILE...",
-                 "play nothing, but join ladders written before")
+            .Add("--join", options.Joined, "FILE...", "play no games, join ladders written before")
             ->check(IsPath)};
     for (CLI::Option* part : parts) part->needs(ladder);
 }
@@ -129,23 +128,23 @@ void AddGames(CLI::App& app, Options& options) {
     OptionGroup group(app, "Games");
     MatchTerms& terms = options.Terms;
     MatchRun& run = options.Run;
-    group.Add("--games", run.Games, "N", "games to play, of each pair for a ladder (100)")
-        ->check(IsNumber(1, MostGames));
+    group.Add("--games", run.Games, "N", "games to play, for a ladder in each match (100)")
+        ->check(IsNumber(1, MaxGames));
     group.Add("--pieces", terms.Pieces, "N", "pieces a side: 2, 4, 6, 8, 10 or 12 (8)")
         ->transform(IsPieceCount);
-    group.Add("--seed", terms.Seed, "N", "another seed, other games (1)")
+    group.Add("--seed", terms.Seed, "N", "seed of the random numbers; it decides the games (1)")
         ->check(IsNumber(0, std::numeric_limits<std::int64_t>::max()));
     group
         .Add("--random-moves", terms.RandomMoves, "N",
              "random moves of each side at the beginning, 0 to 10 (2)")
-        ->check(IsNumber(0, MostRandomMoves));
+        ->check(IsNumber(0, MaxRandomMoves));
     group.Add("--jobs", run.Jobs, "N", "processes that play at the same time, 1 to 256 (1)")
-        ->check(IsNumber(1, MostJobs));
+        ->check(IsNumber(1, MaxJobs));
     group.Add("--save", run.Folder, "DIR", "save a record file of each game here, for Load Game")
         ->check(IsPath);
 }
 
-/// One empty line between the groups of options.
+/// The help of CLI11 with one empty line between the groups of options.
 class HelpText : public CLI::Formatter {
 public:
     std::string make_usage(const CLI::App* app, std::string name) const override {

@@ -14,15 +14,15 @@ struct Options {
     /// The lowest and the highest strength of the ladder.
     Int16 From = 1;
     Int16 To = 11;
-    /// Ladders to be joined; then nothing is played.
+    /// Files with ladders to join. If there are any, no game is played.
     std::vector<std::string> Joined;
     /// Empty for standard output.
     std::string TableFile;
-    /// Empty for none.
+    /// Empty for no chart.
     std::string ChartFile;
 };
 
-/// Where the program has nothing more to do, its exit status.
+/// Reads the command line. Returns an exit status if the program must end.
 std::optional<int> ReadOptions(int count, const char* const* texts, Options& options);
 
 }  // namespace brastel

@@ -20,11 +20,11 @@ namespace brastel {
 namespace {
 
 static_assert(std::is_trivially_copyable_v<MatchGame>);
-static_assert(sizeof(MatchGame) <= PIPE_BUF, "the games of several processes would get mixed up");
+static_assert(sizeof(MatchGame) <= PIPE_BUF, "games of several processes would be mixed");
 
-constexpr int MillisecondsBetweenLooks = 100;
+constexpr int PollMilliseconds = 100;
 
-/// In one piece, as long as it is no larger than PIPE_BUF.
+/// The pipe transfers the game in one piece, because it has at most PIPE_BUF bytes.
 bool Send(int output, const MatchGame& game) {
     ssize_t written = 0;
     do {
@@ -33,8 +33,8 @@ bool Send(int output, const MatchGame& game) {
     return written == static_cast<ssize_t>(sizeof game);
 }
 
-/// Games of one opening stay together.
-void PlayShare(const MatchTerms& terms, const MatchRun& run, int worker, int output) {
+/// Plays the games of one worker. Both games of one opening have the same worker.
+void PlayGamesOf(const MatchTerms& terms, const MatchRun& run, int worker, int output) {
     for (int number = 1; number <= run.Games; ++number) {
         if ((number - 1) / 2 % run.Jobs != worker) continue;
         MatchGame game;
@@ -46,8 +46,8 @@ void PlayShare(const MatchTerms& terms, const MatchRun& run, int worker, int out
     }
 }
 
-/// The end of its parent, however it comes, is an interrupt, too.
-void EndWith(pid_t parent) {
+/// Interrupts this process when its parent ends for any reason.
+void InterruptAtEndOf(pid_t parent) {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
     if (getppid() != parent) Interrupted = 1;
 }
@@ -64,8 +64,8 @@ public:
             const pid_t process = fork();
             if (process == 0) {
                 close(Input);
-                EndWith(self);
-                PlayShare(terms, run, worker, ends[1]);
+                InterruptAtEndOf(self);
+                PlayGamesOf(terms, run, worker, ends[1]);
                 _exit(Done);
             }
             if (process < 0) {
@@ -87,19 +87,19 @@ public:
     Workers(const Workers&) = delete;
     Workers& operator=(const Workers&) = delete;
 
-    /// Each ends within a move.
+    /// Each worker ends after its current move.
     void Stop() const {
         for (const pid_t process : Processes) kill(process, SIGTERM);
     }
 
-    /// Waits for the next game. False when all workers have ended, or none could begin.
+    /// Waits for the next game. False if all workers have ended, or none could start.
     bool Receive(MatchGame& game) const {
         if (Input < 0) return false;
         pollfd input{Input, POLLIN, 0};
-        // An interrupt can come just before the wait and not be noticed by it.
+        // With a time limit, because an interrupt just before poll does not end it.
         do {
             if (Interrupted != 0) Stop();
-        } while (poll(&input, 1, MillisecondsBetweenLooks) <= 0);
+        } while (poll(&input, 1, PollMilliseconds) <= 0);
         return read(Input, &game, sizeof game) == static_cast<ssize_t>(sizeof game);
     }
 
@@ -123,7 +123,7 @@ MatchEnd PlayMatch(const MatchTerms& terms, const MatchRun& run, std::vector<Mat
     std::ranges::sort(games, {}, &MatchGame::Number);
     if (!isSaved) return MatchEnd::NotSaved;
     if (static_cast<int>(games.size()) == run.Games) return MatchEnd::Complete;
-    return Interrupted != 0 ? MatchEnd::Stopped : MatchEnd::Broken;
+    return Interrupted != 0 ? MatchEnd::Stopped : MatchEnd::Failed;
 }
 
 }  // namespace brastel

@@ -5,25 +5,26 @@
 #include <functional>
 #include <vector>
 
-/// All games of a match, in processes of their own.
+/// Plays all games of a match in worker processes.
 namespace brastel {
 
-/// How a match is run; the games do not depend on it.
+/// Options that do not change the games.
 struct MatchRun {
     int Games = 100;
-    /// Processes that play at the same time.
+    /// Number of worker processes.
     int Jobs = 1;
-    /// The folder for a record file of each game, or empty.
+    /// The folder for the record files. Empty if games are not saved.
     std::string Folder;
 };
 
-enum class MatchEnd { Complete, Stopped, NotSaved, Broken };
+/// Stopped: by an interrupt. Failed: a worker process could not start or ended early.
+enum class MatchEnd { Complete, Stopped, NotSaved, Failed };
 
-/// Called for each game as it comes.
+/// Called after each game.
 using MatchProgress = std::function<void(const MatchGame& game)>;
 
-/// Plays games 1 to run.Games and adds them to `games`, ordered by number. What was played before
-/// an interrupt or a failure is kept.
+/// Plays games 1 to run.Games and adds them to `games`, ordered by number. After an interrupt or a
+/// failure, `games` has the games that are complete.
 MatchEnd PlayMatch(const MatchTerms& terms, const MatchRun& run, std::vector<MatchGame>& games,
                    const MatchProgress& progress);
 

@@ -14,7 +14,7 @@ namespace brastel {
 
 namespace {
 
-/// Takes down why a game was not saved.
+/// Keeps the error of SaveGameFile.
 class SavingView : public FileView {
 public:
     int Error = 0;
@@ -23,7 +23,7 @@ public:
         Error = EEXIST;
         return false;
     }
-    /// Comes right after the call of the system that failed.
+    /// SaveGameFile calls this directly after the failed system call, so errno is its error.
     void ShowWarning(const std::string& /*text*/, const std::string& /*title*/) override {
         Error = errno != 0 ? errno : EIO;
     }
@@ -44,7 +44,7 @@ std::string SavedGameName(const MatchTerms& terms, int number) {
 std::string PrepareFolder(const std::string& folder, const MatchTerms& terms, int games) {
     constexpr int Permissions = 0777;
     const std::string what = "cannot save games in " + folder + ": ";
-    // A new folder is empty.
+    // In a new folder there is no file to overwrite.
     if (mkdir(folder.c_str(), Permissions) == 0) return {};
     if (errno != EEXIST) return what + SystemError();
     struct stat state {};

@@ -2,19 +2,17 @@
 
 #include "tools/match/MatchGame.h"
 
-/// The record files of a match, which the game loads.
+/// Saves the games of a match as record files, which brastel can load.
 namespace brastel {
 
-/// As in 0007-Expert-Difficult.txt: the number, who plays Red and who Blue.
+/// The number, the strength of Red and of Blue, for example 0007-Expert-Difficult.txt.
 std::string SavedGameName(const MatchTerms& terms, int number);
 
-/// Makes sure that the games 1 to `games` can be saved in the folder, which is made if need be in
-/// a folder that exists, and that none of them would overwrite a file. Returns what is in the way,
-/// or nothing.
+/// Checks that games 1 to `games` can be saved in the folder without overwriting a file. Creates
+/// the folder if it does not exist; its parent folder must exist. Returns the error, or nothing.
 std::string PrepareFolder(const std::string& folder, const MatchTerms& terms, int games);
 
-/// Saves the game that has just been played, as the game's own command does. Returns 0 or the error
-/// number of the system.
+/// Saves the game of the last PlayMatchGame. Returns 0 or the error number of the system.
 int SaveMatchGame(const std::string& path);
 
 }  // namespace brastel

@@ -9,7 +9,7 @@ namespace brastel {
 
 namespace {
 
-/// Some characters take several bytes.
+/// The number of characters. A character can have several bytes.
 int WidthOf(const std::string& text) {
     const auto begins = [](char byte) { return (byte & 0xC0) != 0x80; };
     return static_cast<int>(std::ranges::count_if(text, begins));

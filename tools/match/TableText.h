@@ -2,17 +2,17 @@
 
 #include <string>
 
-/// What the tables are made of.
+/// Formatted text for tables.
 namespace brastel {
 
-/// As printf does, up to 255 bytes.
+/// Like printf, at most 255 bytes.
 [[gnu::format(printf, 1, 2)]] std::string Format(const char* format, ...);
 
-/// Filled up to a width in characters on the left, or for a negative width on the right. Longer
-/// text stays as it is.
+/// Adds spaces on the left up to this width in characters, or on the right if the width is
+/// negative. Longer text does not change.
 std::string Padded(const std::string& text, int width);
 
-/// A time as the tables have it: in milliseconds, to the microsecond.
+/// A time in milliseconds with three decimals.
 std::string Milliseconds(double seconds);
 
 }  // namespace brastel
