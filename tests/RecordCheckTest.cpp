@@ -1,8 +1,8 @@
 #include "play/TurnFlow.h"
 #include "tests/FilesTest.h"
 #include "tests/GameTest.h"
-#include "tools/record/Lawfulness.h"
 #include "tools/record/Report.h"
+#include "tools/record/RuleCheck.h"
 
 namespace brastel {
 namespace {
@@ -41,7 +41,7 @@ TEST_F(GameTest, LawfulGamesAreNotMarked) {
         SaveGameFile("game");
         const Position played = Pos;
         const RecordedGame game = ReadRecordedGame("game");
-        EXPECT_TRUE(game.IsLawful()) << number << ' ' << Verdict(game) << BytesOf("game");
+        EXPECT_TRUE(game.IsLegal()) << number << ' ' << ResultLine(game) << BytesOf("game");
         EXPECT_TRUE(game.Positions.back() == played);
     }
 }

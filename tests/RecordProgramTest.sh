@@ -51,7 +51,7 @@ done
 expect 2 '' '*see --help'
 expect 2 '' '*name one file' --at 1 game broken
 expect 2 '' '*old: exists; --force overwrites it' --at 1 -o old game
-expect 2 '' '*game: that is the record itself' --force -o game game
+expect 2 '' '*game: the output file is a record to read' --force -o game game
 expect 2 '' '*missing/new: No such file or directory' -o missing/new game
 expect 2 '' '*exists*' -o . game
 expect 2 '' '*: Is a directory' --force -o . game

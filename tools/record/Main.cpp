@@ -1,4 +1,4 @@
-/// Checks record files, tells their games in words and draws their positions.
+/// The program brastel-record: checks record files, prints games in words and draws positions.
 
 #include "files/TextFile.h"
 #include "play/GameRecord.h"
@@ -19,19 +19,19 @@ namespace {
 using namespace brastel;
 
 constexpr const char* Description =
-    R"(Checks record files of Brastel, which Options > Save Game writes: whether they can be read and
-whether every entry keeps the rules. Tells games in words and draws their positions.
+    R"(Checks record files that Brastel writes with Options > Save Game: can they be read, and does
+every entry follow the rules? Also prints games in words and draws their positions.
 )";
 
 constexpr const char* Examples = R"(Examples:
-  brastel-record game.txt                        is everything in order?
+  brastel-record game.txt                        is the file correct?
   brastel-record games/*.txt | grep ' breaks '   which games break the rules?
   brastel-record --moves game.txt | less         the game in words
   brastel-record --at 37 game.txt                the position after 37 entries
   brastel-record --at end --svg -o end.svg game.txt
 
-Status: 0 if all is right; 1 if a file is damaged or an entry breaks the rules; 2 for wrong
-arguments and for files that cannot be read or written; 3 if the system failed; 130 after an
+Status: 0 if everything is correct; 1 if a file is damaged or an entry breaks the rules; 2 if
+arguments are wrong or a file cannot be read or written; 3 if the system failed; 130 after an
 interrupt.
 )";
 
@@ -44,7 +44,7 @@ struct Options {
     bool Force = false;
 };
 
-void Complain(const std::string& words) {
+void ReportError(const std::string& words) {
     std::fprintf(stderr, "brastel-record: %s\n", Printable(words).c_str());
 }
 
@@ -59,13 +59,13 @@ std::string CheckAt(const std::string& text) {
 std::string CheckOutput(const std::string& path) { return path.empty() ? "names no file" : ""; }
 
 void Declare(CLI::App& app, Options& options) {
-    app.add_option("FILE", options.Files, "record files to be read")->required()->type_name("");
-    auto* moves = app.add_flag("--moves", options.Moves, "tell the game entry by entry in words");
+    app.add_option("FILE", options.Files, "record files to read")->required()->type_name("");
+    auto* moves = app.add_flag("--moves", options.Moves, "print the game entry by entry in words");
     auto* at = app.add_option("--at", options.At,
                               "draw the position after N entries (0: the start; end: the last)");
     at->type_name("N")->check(CheckAt)->excludes(moves);
-    app.add_flag("--svg", options.Svg, "draw as an SVG picture instead of text")->needs(at);
-    auto* output = app.add_option("-o,--output", options.Output, "write there, to a new file");
+    app.add_flag("--svg", options.Svg, "draw an SVG picture instead of text")->needs(at);
+    auto* output = app.add_option("-o,--output", options.Output, "write to this new file");
     output->type_name("PATH")->check(CheckOutput);
     app.add_flag("--force", options.Force, "overwrite an existing output file")->needs(output);
     app.set_version_flag("--version", "brastel-record " BRASTEL_VERSION, "show the version");
@@ -73,7 +73,7 @@ void Declare(CLI::App& app, Options& options) {
     app.footer(Examples);
 }
 
-/// What the options ask for together; empty if that is possible.
+/// The error in a combination of options, or empty.
 std::string FirstContradiction(const Options& options) {
     if (!options.At.empty() && options.Files.size() > 1)
         return "--at draws one game: name one file";
@@ -82,49 +82,49 @@ std::string FirstContradiction(const Options& options) {
     if (!exists(std::filesystem::symlink_status(options.Output, ignored))) return {};
     for (const std::string& file : options.Files) {
         if (!std::filesystem::equivalent(file, options.Output, ignored)) continue;
-        return options.Output + ": that is the record itself";
+        return options.Output + ": the output file is a record to read";
     }
     return options.Force ? "" : options.Output + ": exists; --force overwrites it";
 }
 
 // ---- Output ----
 
-/// Gathers what is to be written to a file; otherwise prints at once.
+/// Collects the text for an output file. Without an output file, prints it at once.
 class Output {
 public:
     explicit Output(const Options& options) : Path(options.Output), Force(options.Force) {}
 
     void Write(const std::string& text) {
         if (!Path.empty()) {
-            Gathered += text;
+            Collected += text;
             return;
         }
         const bool isWritten = std::fwrite(text.data(), 1, text.size(), stdout) == text.size();
         if (isWritten && std::fflush(stdout) == 0) return;
-        // A reader that has seen enough is no failure, and an interrupt is told elsewhere.
+        // A closed pipe is not an error, and Run reports an interrupt.
         const bool isQuiet = errno == EPIPE || Interrupted != 0;
-        if (!isQuiet) Complain("standard output: " + std::string(std::strerror(errno)));
+        if (!isQuiet) ReportError("standard output: " + std::string(std::strerror(errno)));
         Failed = true;
     }
     bool HasFailed() const { return Failed; }
 
-    /// Where nothing could be drawn or told, an old file stays as it is.
+    /// Writes the output file. Without any text, an existing file does not change.
     bool Finish() const {
-        if (Gathered.empty()) return true;
-        const FileError error = (Force ? WriteTextFile : CreateTextFile)(Path, Gathered);
+        if (Collected.empty()) return true;
+        const FileError error = (Force ? WriteTextFile : CreateTextFile)(Path, Collected);
         if (error == FileError::None) return true;
-        Complain(Path + ": " + FailureInWords(error, errno));
+        ReportError(Path + ": " + FailureInWords(error, errno));
         return false;
     }
 
 private:
     std::string Path;
     bool Force;
-    std::string Gathered;
+    std::string Collected;
     bool Failed = false;
 };
 
-// ---- What is asked for ----
+// ---- Reports ----
 
 std::string Picture(const Options& options, const RecordedGame& game, int entry) {
     return options.Svg
@@ -144,26 +144,26 @@ std::string NoSuchPosition(const RecordedGame& game, int entry) {
 int Draw(const Options& options, const RecordedGame& game, Output& output) {
     const auto number = ReadNumber(options.At, 0, MaxEntries);
     const int entry = number ? static_cast<int>(*number) : game.PlayedEntries();
-    // A fault is told beside the drawing, not in it.
-    if (!game.IsLawful()) std::fprintf(stderr, "%s\n", Verdict(game).c_str());
+    // Errors go to standard error, so they are not part of the drawing.
+    if (!game.IsLegal()) std::fprintf(stderr, "%s\n", ResultLine(game).c_str());
     if (game.Error != FileError::None) return FoundFault;
     if (entry > game.PlayedEntries()) {
-        Complain(NoSuchPosition(game, entry));
+        ReportError(NoSuchPosition(game, entry));
         return CannotDo;
     }
     output.Write(Picture(options, game, entry));
-    return game.IsLawful() ? Done : FoundFault;
+    return game.IsLegal() ? Done : FoundFault;
 }
 
 int Check(const Options& options, const RecordedGame& game, Output& output) {
-    output.Write(Verdict(game) + '\n' + (options.Moves ? MovesInWords(game) : ""));
-    return game.IsLawful() ? Done : FoundFault;
+    output.Write(ResultLine(game) + '\n' + (options.Moves ? MovesInWords(game) : ""));
+    return game.IsLegal() ? Done : FoundFault;
 }
 
 int DoFile(const Options& options, const std::string& path, Output& output) {
     const RecordedGame game = ReadRecordedGame(path);
     if (IsUnreadable(game)) {
-        Complain(Verdict(game));
+        ReportError(ResultLine(game));
         return CannotDo;
     }
     return options.At.empty() ? Check(options, game, output) : Draw(options, game, output);
@@ -178,8 +178,8 @@ int Run(const Options& options) {
     }
     if (!output.Finish() || output.HasFailed()) status = CannotDo;
     if (Interrupted == 0 || done == options.Files.size()) return status;
-    Complain("interrupted after " + std::to_string(done) + " of " +
-             std::to_string(options.Files.size()) + " files");
+    ReportError("interrupted after " + std::to_string(done) + " of " +
+                std::to_string(options.Files.size()) + " files");
     return WasInterrupted;
 }
 
@@ -190,7 +190,7 @@ int Main(int count, char** texts) {
     Declare(app, options);
     if (const auto status = ReadArguments(app, count, texts)) return *status;
     if (const std::string wrong = FirstContradiction(options); !wrong.empty()) {
-        Complain(wrong);
+        ReportError(wrong);
         return CannotDo;
     }
     WatchInterrupts();
@@ -200,12 +200,12 @@ int Main(int count, char** texts) {
 }  // namespace
 
 int main(int count, char** texts) {
-    // Writing past a size limit is an error to report, not the end.
+    // A write beyond a size limit then fails and does not end the program.
     std::signal(SIGXFSZ, SIG_IGN);
     try {
         return Main(count, texts);
     } catch (const std::exception& error) {
-        // Only memory can run out.
+        // The only possible cause is lack of memory.
         std::fprintf(stderr, "brastel-record: %s\n", error.what());
         return SystemFailed;
     }

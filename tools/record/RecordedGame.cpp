@@ -5,7 +5,7 @@
 #include "core/WinTest.h"
 #include "play/DisplayedMove.h"
 #include "play/GameRecord.h"
-#include "tools/record/Lawfulness.h"
+#include "tools/record/RuleCheck.h"
 
 #include <utility>
 
@@ -13,20 +13,21 @@ namespace brastel {
 
 namespace {
 
-/// One course that the game may have taken: the positions after 0, 1, 2 ... entries.
-using Course = std::vector<Position>;
+/// The positions after 0, 1, 2 ... entries, as they may have been in the game.
+using History = std::vector<Position>;
 
-enum class Manner {
-    /// As in play: every piece outside that may come back does.
-    Shown,
-    /// As people place rings and as StepBack plays again: only pieces near the action come back.
-    Quiet,
+/// Which pieces outside come back after an entry.
+enum class Returns {
+    /// All pieces that can, as after moves in the game.
+    All,
+    /// Only pieces near the action, as after ring placements by people and after StepBack.
+    NearAction,
 };
 
-Course Extended(const Course& course, const RecordedEntry& entry, Manner manner) {
-    Course longer = course;
-    Pos = course.back();
-    if (manner == Manner::Shown) {
+History Extended(const History& history, const RecordedEntry& entry, Returns returns) {
+    History longer = history;
+    Pos = history.back();
+    if (returns == Returns::All) {
         ApplyMoveShown(entry.Played);
         CountEntry();
     } else {
@@ -36,60 +37,63 @@ Course Extended(const Course& course, const RecordedEntry& entry, Manner manner)
     return longer;
 }
 
-void AddNew(std::vector<Course>& courses, Course course) {
+/// Adds the history, unless another one ends with the same position.
+void AddNew(std::vector<History>& histories, History history) {
     const bool isKnown = std::ranges::any_of(
-        courses, [&](const Course& other) { return other.back() == course.back(); });
-    if (!isKnown) courses.push_back(std::move(course));
+        histories, [&](const History& other) { return other.back() == history.back(); });
+    if (!isKnown) histories.push_back(std::move(history));
 }
 
-/// Plays the entries with all their rules. Where a piece was set up outside that could come back at
-/// once, the record does not tell when it did: that depends on who placed the rings and on steps
-/// back. So all courses are followed in which every entry so far was lawful; nearly always there is
-/// one. It is the first of them that counts, and the first is how Forward plays.
-class Judge {
+/// Plays entries and checks the rules. A piece that was set up outside may be able to come back at
+/// once. The record does not say when it came back: this depends on who placed the rings and on
+/// steps back. So this class keeps all histories in which every entry is legal. Nearly always there
+/// is one. The first is the result; it is the history that Forward plays, if that one is legal.
+class LegalHistories {
 public:
-    explicit Judge(const Position& start) : Courses{{start}}, Replayed{start} {}
+    explicit LegalHistories(const Position& start) : Histories{{start}}, Replayed{start} {}
 
-    /// The rule that the entry breaks whatever course the game took, or empty; then it is played.
+    /// Plays the entry and returns an empty text, or returns the rule that it breaks in all
+    /// histories.
     std::string_view Play(const RecordedEntry& entry) {
-        std::vector<Course> next;
+        std::vector<History> next;
         std::string_view cause;
-        for (const Course& course : Courses) {
-            Pos = course.back();
+        for (const History& history : Histories) {
+            Pos = history.back();
             const bool isPlacement = !BothRingsPlaced();
             const std::string_view broken = BrokenRule(entry.Played);
             if (cause.empty()) cause = broken;
             if (!broken.empty()) continue;
-            AddNew(next, Extended(course, entry, Manner::Shown));
-            if (isPlacement) AddNew(next, Extended(course, entry, Manner::Quiet));
+            AddNew(next, Extended(history, entry, Returns::All));
+            if (isPlacement) AddNew(next, Extended(history, entry, Returns::NearAction));
         }
         if (next.empty()) return cause;
-        Replayed = Extended(Replayed, entry, Manner::Quiet);
+        Replayed = Extended(Replayed, entry, Returns::NearAction);
         AddNew(next, Replayed);
-        Courses = std::move(next);
+        Histories = std::move(next);
         return {};
     }
 
-    const Course& Chosen() const { return Courses.front(); }
+    const History& First() const { return Histories.front(); }
 
 private:
-    std::vector<Course> Courses;
-    Course Replayed;
+    std::vector<History> Histories;
+    /// The history of a game in which StepBack was used just now.
+    History Replayed;
 };
 
-void PlayLawfully(RecordedGame& game) {
-    Judge judge(Pos);
+void PlayLegalEntries(RecordedGame& game) {
+    LegalHistories histories(Pos);
     for (const RecordedEntry& entry : game.Entries) {
-        game.Cause = judge.Play(entry);
+        game.Cause = histories.Play(entry);
         if (game.Cause.empty()) continue;
         game.Line = entry.Line;
-        game.BrokenEntry = static_cast<int>(judge.Chosen().size());
+        game.BrokenEntry = static_cast<int>(histories.First().size());
         break;
     }
-    game.Positions = judge.Chosen();
+    game.Positions = histories.First();
 }
 
-/// As Forward does: an entry that breaks the rules and yet fits is played.
+/// Plays the other entries like Forward, which plays every entry that fits, also against the rules.
 void PlayOn(RecordedGame& game) {
     while (game.Positions.size() <= game.Entries.size()) {
         const RecordedEntry& entry = game.Entries[game.Positions.size() - 1];
@@ -101,7 +105,7 @@ void PlayOn(RecordedGame& game) {
     }
 }
 
-/// A ring placement wins no game.
+/// Entries 1 and 2 are ring placements and cannot win.
 void FindWin(RecordedGame& game) {
     for (int k = 3; k <= game.PlayedEntries() && game.Winner == Empty; ++k) {
         Pos = game.Positions[static_cast<std::size_t>(k)];
@@ -126,7 +130,7 @@ RecordedGame ReadRecordedGame(const std::string& path) {
         game.Entries.push_back({LoadedEntry(k), reading.EntryLine[k]});
     }
     SetUpStartPosition();
-    PlayLawfully(game);
+    PlayLegalEntries(game);
     PlayOn(game);
     FindWin(game);
     return game;

@@ -7,43 +7,43 @@
 #include <string_view>
 #include <vector>
 
-/// A game read from its file and played through.
+/// A game that was read from its file and played to its end.
 namespace brastel {
 
 struct RecordedEntry {
     Action Played;
-    /// Where it begins in the file.
+    /// The line of the file on which it begins.
     std::int64_t Line;
 };
 
 struct RecordedGame {
     std::string Path;
-    /// Whether the file could be read. If not, nothing below holds anything.
+    /// The error of reading. After an error, only SystemError, Cause and Line are set.
     FileError Error = FileError::None;
-    /// What the system calls the failure (errno), or 0 if the failure is none of its own.
+    /// The error number of the system (errno), or 0 if no system call failed.
     int SystemError = 0;
-    /// What is wrong with the file, or with BrokenEntry; empty if nothing is.
+    /// What is wrong with the file or with BrokenEntry. Empty if nothing is wrong.
     std::string_view Cause;
-    /// The line of the file that Cause speaks of.
+    /// The line of this error.
     std::int64_t Line = 0;
 
     /// Entry k is Entries[k - 1].
     std::vector<RecordedEntry> Entries;
-    /// The positions after 0, 1, 2 ... entries: as far as the game steps through them, which can be
-    /// beyond BrokenEntry.
+    /// The positions after 0, 1, 2 ... entries, as far as Forward can play them. They can go beyond
+    /// BrokenEntry.
     std::vector<Position> Positions;
     /// The first entry that breaks the rules, or 0.
     int BrokenEntry = 0;
-    /// The first entry with which a side has won, or 0. Play may go on after it.
+    /// The first entry after which a side has won, or 0. More entries can follow.
     int WinningEntry = 0;
     Int16 Winner = Empty;
 
-    bool IsLawful() const { return Error == FileError::None && BrokenEntry == 0; }
-    /// Entries that Positions has.
+    bool IsLegal() const { return Error == FileError::None && BrokenEntry == 0; }
+    /// The number of entries that were played.
     int PlayedEntries() const { return static_cast<int>(Positions.size()) - 1; }
 };
 
-/// Reads the file and plays it. The running game, its record and the start tables are overwritten.
+/// Reads the file and plays the game. Overwrites the current game, its record and the start tables.
 RecordedGame ReadRecordedGame(const std::string& path);
 
 }  // namespace brastel

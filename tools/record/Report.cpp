@@ -37,7 +37,7 @@ std::string Outcome(const RecordedGame& game) {
                   : winner + " wins with entry " + std::to_string(game.WinningEntry);
 }
 
-/// The numbers as they stand in the file, for those who look there.
+/// The two numbers of the entry as in the file.
 std::string AsWritten(const RecordedEntry& entry) {
     return std::to_string(entry.Played.Origin) + ' ' + std::to_string(entry.Played.Destination);
 }
@@ -48,7 +48,7 @@ std::string NumberOf(int entry) {
            number + ". ";
 }
 
-/// The words name the side nearly always; then it is not told again.
+/// Puts the side before the words, unless they begin with it.
 std::string WithSide(int side, const std::string& words) {
     const std::string name = SideInWords(side);
     return words.starts_with(name) ? words : name + ": " + words;
@@ -72,7 +72,7 @@ std::string FileEntryInWords(const RecordedGame& game, int entry) {
            SquareInWords(broken.Played.Destination);
 }
 
-std::string BrokenLine(const RecordedGame& game) {
+std::string BrokenEntryLine(const RecordedGame& game) {
     const int entry = game.BrokenEntry;
     std::string line = NumberOf(entry) + FileEntryInWords(game, entry) + '\n';
     line += std::string(NumberWidth + 2, ' ') + "*** breaks the rules: " + std::string(game.Cause);
@@ -97,7 +97,7 @@ bool IsUnreadable(const RecordedGame& game) {
     }
 }
 
-std::string Verdict(const RecordedGame& game) {
+std::string ResultLine(const RecordedGame& game) {
     const std::string path = Printable(game.Path);
     if (IsUnreadable(game)) return path + ": " + FailureInWords(game.Error, game.SystemError);
     const std::string cause(game.Cause);
@@ -118,12 +118,12 @@ std::string MovesInWords(const RecordedGame& game) {
     if (game.Error != FileError::None) return {};
     std::string text;
     for (int entry = 1; entry <= game.PlayedEntries(); ++entry) {
-        text += entry == game.BrokenEntry ? BrokenLine(game)
+        text += entry == game.BrokenEntry ? BrokenEntryLine(game)
                                           : NumberOf(entry) + EntryInWords(game, entry) + '\n';
         if (entry != game.WinningEntry) continue;
         text += std::string(NumberWidth + 2, ' ') + SideInWords(game.Winner) + " wins\n";
     }
-    if (game.BrokenEntry > game.PlayedEntries()) text += BrokenLine(game);
+    if (game.BrokenEntry > game.PlayedEntries()) text += BrokenEntryLine(game);
     if (game.PlayedEntries() < static_cast<int>(game.Entries.size())) {
         text += std::string(NumberWidth + 2, ' ') + "the game cannot be played on from here\n";
     }

@@ -11,11 +11,11 @@ constexpr int CaptionHeight = 18;
 constexpr int Width = BoardWidth + 2 * Margin;
 constexpr int Height = BoardHeight + 2 * Margin + CaptionHeight;
 
-/// The corner of a row or column; the view's own coordinates begin at BoardLeft and BoardTop.
+/// The left edge of a column and the top edge of a row, in pixels of the picture.
 constexpr int X(int column) { return Margin + column * CellSize; }
 constexpr int Y(int row) { return Margin + row * CellSize; }
 
-/// The colours, lines and texts of ui/: its grey ground, its glass beads, its black rings.
+/// The colours of the window, with simpler glass beads.
 constexpr std::string_view Definitions = R"(<defs>
 <radialGradient id="brastel-red" cx="0.57" cy="0.62" r="0.62">
 <stop offset="0" stop-color="#ff9cff"/>
@@ -34,7 +34,7 @@ constexpr std::string_view Definitions = R"(<defs>
 </defs>
 )";
 
-// Attributes and not a style sheet, which would reach beyond a picture put into a page.
+// Attributes and not a style sheet: a style sheet would also apply to a page around the picture.
 constexpr std::string_view Thin =
     R"(fill="none" stroke="#000" stroke-width="1" shape-rendering="crispEdges")";
 constexpr std::string_view Thick =
@@ -51,7 +51,7 @@ constexpr std::string_view CaptionFont = R"(font-size="14")";
 
 std::string Number(int value) { return std::to_string(value); }
 
-/// name="value", with a blank before it.
+/// name="value" after a space.
 std::string Attribute(std::string_view name, int value) {
     return ' ' + std::string(name) + "=\"" + Number(value) + '"';
 }
@@ -82,7 +82,7 @@ std::string Squares() {
     return Path(Thin, path);
 }
 
-/// The centre line and the border, open before the goals.
+/// The centre line and the border, which is open at both goals.
 std::string FieldLines() {
     constexpr int RightEnd = ColumnCount - 1;
     constexpr int Bottom = RowCount - 1;
@@ -110,7 +110,7 @@ std::string Coordinates() {
     return text;
 }
 
-/// The piece of a square, or the ring that lies there alone.
+/// The piece and the ring of a square.
 std::string Content(int square) {
     const Piece piece = PieceOn(square);
     std::string content = "<g transform=\"translate(" + Number(X(Column(square))) + ' ' +

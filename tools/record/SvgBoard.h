@@ -7,10 +7,10 @@
 
 namespace brastel {
 
-/// The position as an SVG picture of its own ground, drawn like the game's board with numbered
-/// rows, columns and pieces. `caption` stands below the board and is the picture's name; it must be
-/// plain text without the characters that XML reserves. Every piece is named for readers that do
-/// not see it, in words as in Words.h.
+/// The position as an SVG picture with a background. It looks like the board in the window, with
+/// numbered rows, columns and pieces. `caption` is below the board and is the title of the picture.
+/// It must be plain text without the reserved characters of XML. Each piece has a title in words
+/// (play/Words.h) for screen readers.
 std::string BoardAsSvg(const Position& position, std::string_view caption);
 
 }  // namespace brastel

@@ -6,7 +6,7 @@ namespace brastel {
 
 namespace {
 
-/// Room for a carrier with two digits: "(R12)".
+/// Enough for a carrier with two digits: "(R12)".
 constexpr int CellWidth = 5;
 constexpr int LabelWidth = 3;
 
@@ -26,9 +26,9 @@ std::string CellText(int square) {
     return text + (hasRing ? ')' : ' ');
 }
 
-/// A line of the board whose cells are as given, with the field's borders between.
+/// A row of the board with these cells and the left and right border of the field.
 template <typename Cell>
-std::string Line(const std::string& label, char border, Cell cell) {
+std::string BoardLine(const std::string& label, char border, Cell cell) {
     std::string line = Aligned(label, LabelWidth);
     for (int column = 0; column < ColumnCount; ++column) {
         if (column == 1 || column == ColumnCount - 1) line += border;
@@ -38,9 +38,9 @@ std::string Line(const std::string& label, char border, Cell cell) {
     return line + '\n';
 }
 
-/// A line across the field, all of it or open before the goal.
-std::string Rule(bool hasGap) {
-    return Line("", '+', [hasGap](int column) {
+/// A horizontal line across the field, with a gap at the goal or without.
+std::string HorizontalLine(bool hasGap) {
+    return BoardLine("", '+', [hasGap](int column) {
         const bool isInField = column >= 1 && column < ColumnCount - 1;
         const bool isOpen = hasGap && IsGoalColumn(column);
         return isInField && !isOpen ? std::string(CellWidth, '-') : std::string();
@@ -48,13 +48,13 @@ std::string Rule(bool hasGap) {
 }
 
 std::string ColumnNumbers() {
-    return Line("", ' ', [](int column) { return std::to_string(column + 1) + "  "; });
+    return BoardLine("", ' ', [](int column) { return std::to_string(column + 1) + "  "; });
 }
 
 std::string RowText(int row) {
     const bool isInField = row >= 1 && row < RowCount - 1;
-    return Line(std::to_string(row + 1), isInField ? '|' : ' ',
-                [row](int column) { return CellText(SquareAt(row, column)); });
+    return BoardLine(std::to_string(row + 1), isInField ? '|' : ' ',
+                     [row](int column) { return CellText(SquareAt(row, column)); });
 }
 
 std::string WaitingPieces() {
@@ -72,8 +72,8 @@ std::string BoardAsText(const Position& position) {
     Pos = position;
     std::string text = ColumnNumbers();
     for (int row = 0; row < RowCount; ++row) {
-        if (row == 1 || row == RowCount - 1) text += Rule(true);
-        if (row == RowCount / 2) text += Rule(false);
+        if (row == 1 || row == RowCount - 1) text += HorizontalLine(true);
+        if (row == RowCount / 2) text += HorizontalLine(false);
         text += RowText(row);
     }
     text += "\nR Red, B Blue, (R1) (B1) carry a ring\n";

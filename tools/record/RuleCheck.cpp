@@ -1,4 +1,4 @@
-#include "tools/record/Lawfulness.h"
+#include "tools/record/RuleCheck.h"
 
 #include "core/Opening.h"
 #include "core/QuietMove.h"
