@@ -1,4 +1,4 @@
-# The newest release in CHANGELOG.md, the one place where its date and its changes are told:
+# Reads the newest release from CHANGELOG.md and sets:
 #   ReleaseDate     2026-11-23
 #   ReleaseDay      November 23, 2026
 #   ReleaseChanges  an AppStream list, an item for each change

@@ -220,7 +220,7 @@ std::string LadderChart(const Ladder& ladder) {
     const double height = Bottom(ladder) + AxisHeight;
     const std::string title = "How strong the computer plays";
     const std::string unit = "Elo points above " + StrengthName(ladder.Entries.front().Level) +
-                             ", with 95 % error bars that add up on the way up";
+                             ", with 95 % confidence intervals";
     return Format(
                "<svg xmlns=\"http://www.w3.org/2000/svg\" viewBox=\"0 0 %.0f %.0f\" "
                "width=\"%.0f\" height=\"%.0f\" role=\"img\">\n",
