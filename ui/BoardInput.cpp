@@ -1,5 +1,6 @@
 #include "ui/BoardInput.h"
 
+#include "play/HumanAction.h"
 #include "ui/BoardView.h"
 
 namespace brastel {
@@ -17,12 +18,8 @@ QPoint BoardInput::PixelOf(const QMouseEvent& event) const {
 }
 
 void BoardInput::Drop(Piece dragged, QPoint point) {
-    const Piece target = BoardView::PieceAt(point);
-    if (target) {
-        emit Piece_DragDrop(dragged, target);
-    } else {
-        emit Form_DragDrop(dragged, point.x(), point.y());
-    }
+    if (const Piece target = BoardView::PieceAt(point)) return DropOnPiece(dragged, target);
+    DropOnBoard(dragged, point.x(), point.y());
 }
 
 }  // namespace brastel

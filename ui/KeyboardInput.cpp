@@ -1,6 +1,7 @@
 #include "ui/KeyboardInput.h"
 
 #include "play/GameState.h"
+#include "play/HumanAction.h"
 #include "play/Words.h"
 #include "ui/MouseInput.h"
 
@@ -129,7 +130,7 @@ void KeyboardInput::Press() {
     if (Held != NoSquare) return DropHere();
     const QPoint corner = FocusCorner();
     if (IsPieceAt(corner.x(), corner.y())) return PickUp();
-    Try([&] { emit Form_MouseUp(corner.x(), corner.y()); }, "nothing here");
+    Try([&] { ClickBoard(corner.x(), corner.y()); }, "nothing here");
 }
 
 void KeyboardInput::PickUp() {
@@ -151,7 +152,7 @@ void KeyboardInput::DoubleClick() {
     PutBack();
     const Piece piece = PieceOn(Focus);
     if (!piece) return emit Announced("nothing here");
-    emit Piece_DblClick(piece);
+    DoubleClickPiece(piece);
 }
 
 void KeyboardInput::PutBack() {

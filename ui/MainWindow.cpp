@@ -3,7 +3,6 @@
 #include "core/Position.h"
 #include "play/GameState.h"
 #include "play/Hint.h"
-#include "play/HumanAction.h"
 #include "play/Stepping.h"
 #include "ui/Announcer.h"
 #include "ui/BoardAccessible.h"
@@ -156,8 +155,6 @@ void MainWindow::ConnectInput() {
     Announcements = new Announcer(Form);
     Mouse = new MouseInput(Form);
     Keyboard = new KeyboardInput(Form, Mouse);
-    ConnectGestures(*Mouse);
-    ConnectGestures(*Keyboard);
     connect(Keyboard, &KeyboardInput::FocusMoved, this,
             [this](int square) { NotifySquareFocused(*Form, square); });
     connect(Keyboard, &KeyboardInput::Announced, Announcements, &Announcer::Say);
@@ -167,13 +164,6 @@ void MainWindow::ConnectInput() {
         connect(button, &QPushButton::clicked, this,
                 [this, run = command] { RunLater(this, run); });
     }
-}
-
-void MainWindow::ConnectGestures(const BoardInput& input) {
-    connect(&input, &BoardInput::Form_DragDrop, DropOnBoard);
-    connect(&input, &BoardInput::Piece_DragDrop, DropOnPiece);
-    connect(&input, &BoardInput::Piece_DblClick, DoubleClickPiece);
-    connect(&input, &BoardInput::Form_MouseUp, ClickBoard);
 }
 
 void MainWindow::OpenMainWindow() {

@@ -13,7 +13,6 @@
 namespace brastel {
 
 class Announcer;
-class BoardInput;
 class BoardView;
 class KeyboardInput;
 class MouseInput;
@@ -62,7 +61,6 @@ private:
     void FixSize();
     void ConnectInput();
     void EndGestures();
-    void ConnectGestures(const BoardInput& input);
     void ShowStepButton(QPushButton& button, bool visible);
 
     BoardView* Form = nullptr;

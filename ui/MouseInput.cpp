@@ -1,6 +1,7 @@
 #include "ui/MouseInput.h"
 
 #include "core/Opening.h"
+#include "play/HumanAction.h"
 #include "ui/BoardView.h"
 #include "ui/Outline.h"
 
@@ -130,7 +131,7 @@ void MouseInput::DoubleClick(const QMouseEvent& event) {
     Follow(event);
     if (Current != Gesture::None) return;
     const Piece piece = BoardView::PieceAt(Pointer);
-    if (piece && piece == Pressed) emit Piece_DblClick(piece);
+    if (piece && piece == Pressed) DoubleClickPiece(piece);
     if (QGuiApplication::mouseButtons().testFlag(event.button())) Press(event);
 }
 
@@ -149,7 +150,7 @@ void MouseInput::Release(const QMouseEvent& event) {
     if (ended == Gesture::Drag) {
         Drop(Pressed, Pointer);
     } else {
-        emit Form_MouseUp(Pointer.x(), Pointer.y());
+        ClickBoard(Pointer.x(), Pointer.y());
     }
 }
 

@@ -11,8 +11,6 @@ namespace brastel {
 /// loses the mouse or the keyboard focus. The cursor shows which pieces can be dragged or can get
 /// the ring. Over the controls of the view, which must exist before, it is an arrow.
 class MouseInput : public BoardInput {
-    Q_OBJECT
-
 public:
     explicit MouseInput(BoardView* view);
 
