@@ -36,7 +36,7 @@ BENCHMARK(SurveyAndBeam)->Arg(4)->Arg(10)->Arg(MaxBeam);
 /// And at the deepest ply: the highest value alone.
 void BestReply(benchmark::State& state) {
     SetUpBenchPosition(MiddleGame);
-    while (state.KeepRunning()) benchmark::DoNotOptimize(HighestValue(NoValue, -NoValue));
+    while (state.KeepRunning()) benchmark::DoNotOptimize(HighestValue(NoScore, -NoScore));
 }
 BENCHMARK(BestReply);
 

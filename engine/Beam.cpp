@@ -44,7 +44,7 @@ void List(Shortlist& list, Candidate candidate, int place) {
 
 Candidate CommonCandidate(const PieceSurvey& piece, int bit) {
     return CandidateOf(piece.Square, piece.Square + bit - WindowReach,
-                       piece.Common + NumberAt(piece.Values, bit));
+                       piece.Common + CounterAt(piece.Values, bit));
 }
 
 void ListPiece(Shortlist& list, const Survey& survey, const PieceSurvey& piece) {
@@ -70,7 +70,7 @@ void ListPiece(Shortlist& list, const Survey& survey, const PieceSurvey& piece) 
 
 /// Leaves out pieces that cannot have a candidate to list, unless their places count.
 void ListPieces(Shortlist& list, Survey& survey) {
-    const SquareSet places = PlacesWorth(survey, list.Threshold);
+    const Bitboard places = PlacesWorth(survey, list.Threshold);
     for (std::size_t n = 0; n < survey.PieceTotal; ++n) {
         const bool mayList = IsSurveyed(survey, n) || MayReach(survey, n, places);
         if (!mayList && list.NextPlace >= list.ExactPlaces) continue;
@@ -111,7 +111,7 @@ Beam SelectBeam(Shortlist& list, int width) {
 int LikelyDepth(const Survey& survey, int width) {
     constexpr int deepest = 12;
     int depth = 1;
-    while (depth < deepest && SizeOf(PlacesWorth(survey, survey.Best - depth)) < width) ++depth;
+    while (depth < deepest && CountOf(PlacesWorth(survey, survey.Best - depth)) < width) ++depth;
     return depth;
 }
 
@@ -128,7 +128,7 @@ Candidate FirstOfBest(const Survey& survey) {
 Beam KeepBeam(Survey& survey, int width) {
     constexpr int deepest = 24;
     for (int depth = LikelyDepth(survey, width);; depth *= 2) {
-        Shortlist list(depth <= deepest ? survey.Best - depth : NoValue, width);
+        Shortlist list(depth <= deepest ? survey.Best - depth : NoScore, width);
         ListPieces(list, survey);
         const bool isEnough = list.Count >= static_cast<std::size_t>(width);
         if (isEnough || depth > deepest) return SelectBeam(list, width);

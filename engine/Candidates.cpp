@@ -156,7 +156,7 @@ void AddPiece(int ply, Int16 piece, int square) {
     for (const Place& place : places) {
         const int target = TargetOf(piece, square, place);
         if (target == NoSquare) continue;
-        AddEntry(ply, EncodeMove({square, target}), ScoreMove(square, target));
+        AddEntry(ply, EncodeMove({square, target}), ScoreMove({square, target}));
     }
 }
 

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "engine/MoveCode.h"
+#include "engine/Values.h"
 
 /// The candidate tables, the generator that fills them one candidate after another, and the sort.
 /// They are what a search begins with and where it leaves its result; inside, it has faster means.
@@ -11,11 +12,6 @@ namespace brastel {
 constexpr int MaxPly = 11;
 /// Twelve pieces with at most 34 candidates each need 408 entries.
 constexpr int MaxCandidates = 450;
-/// The value of an entry that has not been scored, and of a side that has no candidate.
-constexpr double NoScore = -100000.0;
-/// An immediate value is divided by this before the answer's value is taken off: the same gain is
-/// worth a little less the later it comes.
-constexpr double Discount = 1.01;
 
 template <typename T>
 using PlyTable = Table<Table<T, 0, MaxCandidates>, 0, MaxPly>;

@@ -1,131 +1,107 @@
 #include "engine/Evaluation.h"
 
-#include "core/Position.h"
 #include "core/QuietMove.h"
 #include "core/WinTest.h"
 #include "engine/EvaluationTerms.h"
-
-#include <span>
 
 namespace brastel {
 
 namespace {
 
-constexpr std::array<int, 4> BesideOffsets{Right, Left, Down, Up};
-constexpr std::array<int, 4> DiagonalOffsets{Up + Left, Up + Right, Down + Left, Down + Right};
-
-bool IsNearRing(int square, std::span<const int> offsets) {
-    return std::ranges::any_of(offsets, [square](int o) { return IsRingSquare(square - o); });
-}
-
 // ---- Terms of the sum, each as the side to move sees it ----
 
-struct Move {
-    int Origin;
-    int Destination;
-};
-
-bool LeavesCarrierAtGoal(const Move& move) {
+bool LeavesCarrierAtGoal(const Action& move) {
     const int enemy = -Pos.SideToMove;
     for (const Int16 ring : Pos.RingSquare) {
-        // The first such carrier decides; the other ring is not looked at.
+        // Only the first such carrier counts.
         if (Pos.Board[ring] == enemy && IsGoalFront(enemy, ring)) return move.Destination != ring;
     }
     return false;
 }
 
-bool ConcernsGoalFront(const Move& move) {
+bool ConcernsGoalFront(const Action& move) {
     const int side = Pos.SideToMove;
     return IsGoalFront(side, move.Destination) &&
            (CarriesRing(side, move.Origin) || CarriesRing(-side, move.Destination));
 }
 
-int AnswerToCarrier(const Move& move) {
+int AnswerToCarrier(const Action& move) {
     const int side = Pos.SideToMove;
     const SideTerms& terms = TermsOf(side);
     for (const Int16 ring : Pos.RingSquare) {
         if (Pos.Board[ring] != -side || !terms.AdvancedCarrier.Holds(ring)) continue;
-        const bool isAhead = (Line(move.Destination) - Line(ring)) * side <= 0;
-        return terms.AnswerOrigins.Holds(move.Origin) && isAhead ? 4 : 0;
+        const bool isAnswer = AnswersCarrier(side, ring, move.Destination);
+        return terms.AnswerOrigins.Holds(move.Origin) && isAnswer ? Weight::CarrierAnswered : 0;
     }
     return 0;
 }
 
-/// Enemy pieces less own ones in the four field rows from the given square down.
-int EnemySurplus(int firstSquare) {
-    int sum = 0;
-    for (int row = 0; row < CrowdRows; ++row) {
-        for (int column = 0; column < 6; ++column) {
-            sum += Pos.Board[firstSquare + row * Down + column * Right];
-        }
-    }
-    return -Pos.SideToMove * sum;
-}
-
 int CrowdingAroundCarrier() {
-    const int enemy = -Pos.SideToMove;
-    const SideTerms& terms = TermsOf(Pos.SideToMove);
+    const int side = Pos.SideToMove;
+    const SideTerms& terms = TermsOf(side);
     const bool isCarrierThere = std::ranges::any_of(Pos.RingSquare, [&](Int16 ring) {
-        return Pos.Board[ring] == enemy && terms.CrowdCarrier.Holds(ring);
+        return Pos.Board[ring] == -side && terms.CrowdCarrier.Holds(ring);
     });
-    return isCarrierThere && EnemySurplus(terms.CrowdFirst) >= 2 ? -12 : 0;
-}
-
-int PreparedPasses(const Move& move) {
-    const int ahead = 2 * Forward(Pos.SideToMove);
-    int value = 0;
-    for (const Int16 ring : Pos.RingSquare) {
-        if (Pos.Board[ring] != Pos.SideToMove) continue;
-        if (move.Destination == ring + ahead + Left || move.Destination == ring + ahead + Right) {
-            ++value;
-        }
+    if (!isCarrierThere) return 0;
+    int surplus = 0;
+    for (int square = terms.Crowd.First; square <= terms.Crowd.Last; ++square) {
+        if (InCrowd(side, square)) surplus -= side * Pos.Board[square];
     }
-    return value;
+    return surplus >= Weight::CrowdSurplus ? Weight::Crowd : 0;
 }
 
-/// A carrier leaves a corner along its own goal line's second row.
-bool LeavesCorner(const Move& move) {
-    const int origin = move.Origin;
-    const int destination = move.Destination;
-    const bool atBottom = (origin == 98 || origin == 103) && Pos.Board[origin] == Blue;
-    const bool atTop = (origin == 10 || origin == 15) && Pos.Board[origin] == Red;
-    return (atBottom && Row(destination) == 11) || (atTop && Row(destination) == 2);
+int PreparedPasses(const Action& move) {
+    return Weight::PassPrepared *
+           static_cast<int>(std::ranges::count_if(Pos.RingSquare, [&](Int16 ring) {
+               return Pos.Board[ring] == Pos.SideToMove &&
+                      PreparesPass(Pos.SideToMove, ring, move.Destination);
+           }));
 }
 
-int CarrierMove(const Move& move) {
-    if (!IsRingSquare(move.Origin)) return 0;
-    int value = Pos.SideToMove * 4 * (Line(move.Destination) - Line(move.Origin));
-    if (LeavesCorner(move)) value += 5;
-    if (std::ranges::any_of(BesideOffsets, [&](int offset) {
-            return Pos.Board[move.Destination + offset] == Pos.SideToMove;
-        })) {
-        value += 1;
-    }
-    if (IsFieldCorner(move.Destination)) value -= 1;
-    return value;
+bool LeavesCorner(const Action& move) {
+    const int row = Row(move.Origin);
+    return IsFieldCorner(move.Origin) && row == Row(GoalFront(Pos.SideToMove)) &&
+           row - Row(move.Destination) == Pos.SideToMove;
 }
 
-/// Pieces beside the destination that are of the same side as the piece on it.
-int Contacts(int destination) {
-    const int cell = Pos.Board[destination];
+/// Pieces of a side, as its cells hold it, beside a square.
+int CountBeside(int side, int square) {
     return static_cast<int>(std::ranges::count_if(
-        BesideOffsets, [&](int offset) { return cell * Pos.Board[destination + offset] == 1; }));
+        BesideOffsets, [&](int offset) { return Pos.Board[square + offset] == side; }));
 }
 
-int EveryMove(const Move& move) {
+int CarrierMove(const Action& move) {
+    if (!IsRingSquare(move.Origin)) return 0;
+    const int rows = Pos.SideToMove * (Row(move.Destination) - Row(move.Origin));
+    int value = Weight::RowForward * rows;
+    if (LeavesCorner(move)) value += Weight::CornerLeft;
+    if (CountBeside(Pos.SideToMove, move.Destination) > 0) value += Weight::RingBesideFriend;
+    if (IsFieldCorner(move.Destination)) value += Weight::CornerEntered;
+    return value;
+}
+
+bool IsNearRing(const std::array<int, 4>& offsets, int destination) {
+    return IsNear(offsets, Pos.RingSquare[0], destination) ||
+           IsNear(offsets, Pos.RingSquare[1], destination);
+}
+
+int EveryMove(const Action& move) {
     const int destination = move.Destination;
-    int value = Pos.SideToMove * 3 * Pos.OutsideBalance;
-    if (Pos.Board[destination] == -Pos.SideToMove) value += 2;
-    if (IsRingSquare(destination)) value += 5;
-    if (IsNearRing(destination, BesideOffsets)) value += 2;
-    if (IsNearRing(destination, DiagonalOffsets)) value += 1;
-    value += IsGoalColumn(Column(destination)) - IsGoalColumn(Column(move.Origin));
-    return value + Contacts(destination);
+    const int cell = Pos.Board[destination];
+    int value = Pos.SideToMove * Weight::PieceOutside * Pos.OutsideBalance;
+    if (cell == -Pos.SideToMove) value += Weight::Hit;
+    if (IsRingSquare(destination)) value += Weight::RingTaken;
+    if (IsNearRing(BesideOffsets, destination)) value += Weight::BesideRing;
+    if (IsNearRing(DiagonalOffsets, destination)) value += Weight::DiagonalToRing;
+    if (cell != Empty) value += Weight::Contact * CountBeside(cell, destination);
+    return value + Weight::GoalColumn *
+                       (IsGoalColumn(Column(destination)) - IsGoalColumn(Column(move.Origin)));
 }
 
 // ---- Carriers in front of a goal ----
 
-/// True if a friend beside or behind covers a carrier on one of the two inner goal front squares.
+/// True if a friend covers a carrier on one of the two inner goal front squares: it stands beside
+/// or behind the carrier, ready to hit back.
 bool IsInnerCovered(int side, int square) {
     const auto& board = Pos.Board;
     const int forward = Forward(side);
@@ -159,32 +135,31 @@ bool IsFirstCarrierCovered(int side) {
     return CarriesRing(side, first + 3) && IsOuterCovered(side, first + 3, Right);
 }
 
-/// The last verdict that applies counts, so they are asked from the end.
-Int16 JudgeGoalFronts() {
-    if (HasUnstoppableCarrier(Blue)) return 10000;
-    if (HasUnstoppableCarrier(Red)) return -10000;
-    if (IsFirstCarrierCovered(Blue)) return 9000;
-    return IsFirstCarrierCovered(Red) ? -9000 : 0;
+/// As Blue sees it. An unstoppable carrier counts before a covered one, and Blue's before Red's.
+Int16 GoalFrontVerdict() {
+    if (HasUnstoppableCarrier(Blue)) return WinValue;
+    if (HasUnstoppableCarrier(Red)) return LossValue;
+    if (IsFirstCarrierCovered(Blue)) return CoveredValue;
+    return IsFirstCarrierCovered(Red) ? ToInt16(-CoveredValue) : Int16{0};
 }
 
 }  // namespace
 
-Int16 ScoreMove(int origin, int destination) {
-    const Move move{origin, destination};
-    if (destination == GoalSquare(Pos.SideToMove)) return WinValue;
+Int16 ScoreMove(const Action& move) {
+    if (move.Destination == GoalSquare(Pos.SideToMove)) return WinValue;
     if (LeavesCarrierAtGoal(move)) return LossValue;
     if (ConcernsGoalFront(move)) {
-        const int verdict = Pos.SideToMove * GoalFrontCheck(origin, destination);
+        const int verdict = Pos.SideToMove * GoalFrontCheck(move);
         if (verdict != 0) return ToInt16(verdict);
     }
     return ToInt16(AnswerToCarrier(move) + CrowdingAroundCarrier() + PreparedPasses(move) +
                    CarrierMove(move) + EveryMove(move));
 }
 
-Int16 GoalFrontCheck(int origin, int destination) {
+Int16 GoalFrontCheck(const Action& move) {
     const PlySave saved;
-    ApplyMoveQuiet({origin, destination});
-    const Int16 verdict = JudgeGoalFronts();
+    ApplyMoveQuiet(move);
+    const Int16 verdict = GoalFrontVerdict();
     saved.Restore();
     return verdict;
 }

@@ -1,23 +1,19 @@
 #pragma once
 
-#include "core/Numbers.h"
+#include "core/Action.h"
+#include "engine/Values.h"
 
 namespace brastel {
 
-/// A move that wins at once.
-constexpr Int16 WinValue = 10000;
-/// A move that leaves an enemy carrier in front of its goal standing.
-constexpr Int16 LossValue = -10000;
-
 /// The immediate value of a candidate on the position before it, as the side to move sees it: the
-/// higher, the better. A hand-tuned sum of small bonuses, overridden by WinValue, LossValue and the
-/// verdict of GoalFrontCheck. Both squares are board squares of a candidate of the side to move;
-/// the position is the same after the call.
-Int16 ScoreMove(int origin, int destination);
+/// higher, the better. It is a hand-tuned sum of small bonuses, unless one of these decides:
+/// WinValue, LossValue or the result of GoalFrontCheck. The move must be a candidate of the side to
+/// move. The position is the same after the call.
+Int16 ScoreMove(const Action& move);
 
 /// What becomes of carriers in front of a goal after a move of the side to move, as Blue sees it:
-/// 10000 and -10000 for an unstoppable Blue or Red carrier, 9000 and -9000 for one that is covered,
-/// 0 otherwise. The position is the same after the call.
-Int16 GoalFrontCheck(int origin, int destination);
+/// WinValue and LossValue for an unstoppable Blue or Red carrier, CoveredValue and -CoveredValue
+/// for a covered one, 0 otherwise. The position is the same after the call.
+Int16 GoalFrontCheck(const Action& move);
 
 }  // namespace brastel

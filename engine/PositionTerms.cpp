@@ -8,46 +8,37 @@ namespace {
 
 // ---- Sets that are the same in every position ----
 
-constexpr SquareSet Field = SquaresWhere(InField);
+constexpr Bitboard Field = SquaresWhere(InField);
 
-constexpr SquareSet GoalColumns = SquaresWhere([](int s) { return IsGoalColumn(Column(s)); });
+constexpr Bitboard GoalColumns = SquaresWhere([](int s) { return IsGoalColumn(Column(s)); });
 
-constexpr SquareSet RedFront = SquaresWhere([](int s) { return IsGoalFront(Red, s); });
-constexpr SquareSet BlueFront = SquaresWhere([](int s) { return IsGoalFront(Blue, s); });
+constexpr Bitboard RedFront = SquaresWhere([](int s) { return IsGoalFront(Red, s); });
+constexpr Bitboard BlueFront = SquaresWhere([](int s) { return IsGoalFront(Blue, s); });
 
-constexpr SetsBySquare Beside = SquaresRelated([](int from, int to) {
-    return to == from + Right || to == from + Left || to == from + Down || to == from + Up;
-});
-constexpr SetsBySquare Diagonal = SquaresRelated([](int from, int to) {
-    return to == from + Up + Left || to == from + Up + Right || to == from + Down + Left ||
-           to == from + Down + Right;
-});
+constexpr BitboardTable Beside =
+    SquaresRelated([](int ring, int to) { return IsNear(BesideOffsets, ring, to); });
+constexpr BitboardTable Diagonal =
+    SquaresRelated([](int ring, int to) { return IsNear(DiagonalOffsets, ring, to); });
 
-/// The terms of a side as sets.
+/// The terms of a side as bitboards.
 struct SideSets {
     /// By the square of an own carrier: where a forward pass is prepared.
-    SetsBySquare PassPrepared;
-    SquareSet AdvancedCarrier;
+    BitboardTable PassPrepared;
+    Bitboard AdvancedCarrier;
     /// By the square of an advanced carrier: the squares that answer it.
-    SetsBySquare Answering;
-    SquareSet CrowdCarrier;
-    SquareSet Crowd;
+    BitboardTable Answering;
+    Bitboard CrowdCarrier;
+    Bitboard Crowd;
 };
 
 constexpr SideSets SetsOf(int side) {
     const SideTerms& terms = TermsOf(side);
-    const int ahead = 2 * Forward(side);
     return {
-        SquaresRelated([=](int from, int to) {
-            return to == from + ahead + Left || to == from + ahead + Right;
-        }),
+        SquaresRelated([=](int from, int to) { return PreparesPass(side, from, to); }),
         SquaresWhere([&](int s) { return terms.AdvancedCarrier.Holds(s); }),
-        SquaresRelated([=](int from, int to) { return (Line(to) - Line(from)) * side <= 0; }),
+        SquaresRelated([=](int from, int to) { return AnswersCarrier(side, from, to); }),
         SquaresWhere([&](int s) { return terms.CrowdCarrier.Holds(s); }),
-        SquaresWhere([&](int s) {
-            const int row = Row(s) - Row(terms.CrowdFirst);
-            return InField(s) && row >= 0 && row < CrowdRows;
-        }),
+        SquaresWhere([=](int s) { return InCrowd(side, s); }),
     };
 }
 
@@ -58,54 +49,60 @@ constexpr SideSets BlueSets = SetsOf(Blue);
 
 /// A number 0 to 7 for each square.
 struct SmallValues {
-    SquareSet Ones;
-    SquareSet Twos;
-    SquareSet Fours;
+    Bitboard Ones;
+    Bitboard Twos;
+    Bitboard Fours;
 };
 
 /// Four sets of squares that count one and a set that counts two.
-SmallValues SumOf(const std::array<SquareSet, 4>& ones, SquareSet twos) {
+SmallValues SumOf(const std::array<Bitboard, 4>& ones, Bitboard twos) {
     const auto [a, b, c, d] = ones;
-    const SquareSet ab = a ^ b;
-    const SquareSet cd = c ^ d;
-    const SquareSet x = (a & b) | (ab & cd);
-    const SquareSet y = c & d;
+    const Bitboard ab = a ^ b;
+    const Bitboard cd = c ^ d;
+    const Bitboard x = (a & b) | (ab & cd);
+    const Bitboard y = c & d;
     return {ab ^ cd, x ^ y ^ twos, (x & y) | (twos & (x | y))};
 }
 
-SquareValues SumOf(const SmallValues& a, const SmallValues& b) {
-    const SquareSet carried2 = a.Ones & b.Ones;
-    const SquareSet twos = a.Twos ^ b.Twos;
-    const SquareSet carried4 = (a.Twos & b.Twos) | (carried2 & twos);
-    const SquareSet fours = a.Fours ^ b.Fours;
-    const SquareSet carried8 = (a.Fours & b.Fours) | (carried4 & fours);
-    return {a.Ones ^ b.Ones, twos ^ carried2, fours ^ carried4, carried8, SquareSet{}};
+SquareCounters SumOf(const SmallValues& a, const SmallValues& b) {
+    const Bitboard carried2 = a.Ones & b.Ones;
+    const Bitboard twos = a.Twos ^ b.Twos;
+    const Bitboard carried4 = (a.Twos & b.Twos) | (carried2 & twos);
+    const Bitboard fours = a.Fours ^ b.Fours;
+    const Bitboard carried8 = (a.Fours & b.Fours) | (carried4 & fours);
+    return {a.Ones ^ b.Ones, twos ^ carried2, fours ^ carried4, carried8, Bitboard{}};
 }
 
 // ---- The terms ----
 
-SquareSet PiecesOf(int side) {
+Bitboard PiecesOf(int side) {
     const PieceSquares& squares = SquaresOf(side);
     const int count = PieceCount(side);
-    SquareSet pieces{};
+    Bitboard pieces{};
     for (int i = 1; i <= count; ++i) pieces |= OneSquare[squares[i]];
     return pieces;
 }
 
 int CrowdingValue(const PositionTerms& terms, const SideSets& sets) {
     if ((terms.Rings & terms.Enemy & sets.CrowdCarrier).IsEmpty()) return 0;
-    return SizeOf(terms.Enemy & sets.Crowd) - SizeOf(terms.Own & sets.Crowd) >= 2 ? -12 : 0;
+    const int surplus = CountOf(terms.Enemy & sets.Crowd) - CountOf(terms.Own & sets.Crowd);
+    return surplus >= Weight::CrowdSurplus ? Weight::Crowd : 0;
 }
+
+static_assert(Weight::Contact == 1);
 
 /// For each piece how many of its side stand beside it.
-SmallValues Contacts(SquareSet own, SquareSet enemy) {
+SmallValues Contacts(Bitboard own, Bitboard enemy) {
     return SumOf({(own & own << 1) | (enemy & enemy << 1), (own & own >> 1) | (enemy & enemy >> 1),
                   (own & own << 8) | (enemy & enemy << 8), (own & own >> 8) | (enemy & enemy >> 8)},
-                 SquareSet{});
+                 Bitboard{});
 }
 
-/// Goal columns, what is near the rings, and prepared passes.
-SmallValues Places(const PositionTerms& terms, const SideSets& sets) {
+static_assert(Weight::GoalColumn == 1 && Weight::DiagonalToRing == 1);
+static_assert(Weight::PassPrepared == 1 && Weight::BesideRing == 2);
+
+/// Goal columns, squares near the rings, and prepared passes.
+SmallValues PlaceValues(const PositionTerms& terms, const SideSets& sets) {
     const auto [ring0, ring1] = Pos.RingSquare;
     const int carrier0 = Holds(terms.Own, ring0) ? ring0 : NoSquare;
     const int carrier1 = Holds(terms.Own, ring1) ? ring1 : NoSquare;
@@ -115,23 +112,20 @@ SmallValues Places(const PositionTerms& terms, const SideSets& sets) {
 }
 
 /// Only the first advanced carrier is answered, that of ring 0 before that of ring 1.
-SquareSet SquaresThatAnswer(const PositionTerms& terms, const SideSets& sets) {
+Bitboard SquaresThatAnswer(const PositionTerms& terms, const SideSets& sets) {
     const auto [ring0, ring1] = Pos.RingSquare;
-    const SquareSet advanced = terms.Enemy & sets.AdvancedCarrier;
+    const Bitboard advanced = terms.Enemy & sets.AdvancedCarrier;
     const int second = Holds(advanced, ring1) ? ring1 : NoSquare;
     return sets.Answering[Holds(advanced, ring0) ? ring0 : second];
 }
 
 void FindDestinations(PositionTerms& terms, const SideSets& sets) {
-    SquareValues& values = terms.Destination[0];
-    values = SumOf(Places(terms, sets), Contacts(terms.Own, terms.Enemy));
-    AddTo(values, terms.Targets, 1);
-    // Five for a square with a ring: its carrier is hit, or a free setup has left it lying.
-    const SquareSet takenRings = terms.Rings & (terms.Targets | terms.Free);
-    AddTo(values, takenRings, 0);
-    AddTo(values, takenRings, 2);
+    SquareCounters& values = terms.Destination[0];
+    values = SumOf(PlaceValues(terms, sets), Contacts(terms.Own, terms.Enemy));
+    AddTo(values, terms.Targets, Weight::Hit);
+    AddTo(values, terms.Rings & (terms.Targets | terms.Free), Weight::RingTaken);
     terms.Destination[1] = values;
-    AddTo(terms.Destination[1], SquaresThatAnswer(terms, sets), 2);
+    AddTo(terms.Destination[1], SquaresThatAnswer(terms, sets), Weight::CarrierAnswered);
 }
 
 }  // namespace
@@ -149,7 +143,7 @@ void FindTerms(PositionTerms& terms) {
     terms.JudgedTargets = terms.Enemy & terms.Rings & (RedFront | BlueFront);
     terms.Targets = Field & terms.Enemy & ~terms.JudgedTargets;
     terms.MustAnswer = !(terms.JudgedTargets & (side == Red ? BlueFront : RedFront)).IsEmpty();
-    terms.Shared = side * 3 * Pos.OutsideBalance + CrowdingValue(terms, sets);
+    terms.Shared = side * Weight::PieceOutside * Pos.OutsideBalance + CrowdingValue(terms, sets);
     if (terms.MustAnswer) {
         terms.Destination = {};
     } else {

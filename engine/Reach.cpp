@@ -13,7 +13,7 @@ constexpr std::array<int, 4> PushDirections{Up, Left, Right, Down};
 
 /// The places, two rows and columns away at most, whose columns and rows satisfy the predicate.
 template <typename Predicate>
-constexpr Window PlacesWhere(Predicate predicate) {
+constexpr Window WindowWhere(Predicate predicate) {
     Window places = 0;
     for (int rows = -2; rows <= 2; ++rows) {
         for (int columns = -2; columns <= 2; ++columns) {
@@ -48,14 +48,14 @@ constexpr bool AreGuardsIn(Window window, const PathGuards& guards) {
 
 /// By the pattern of free squares among the nearest: the places to which nothing bars the way. All
 /// squares that a step passes over are among the nearest.
-constexpr auto OpenPlaces = [] {
+constexpr auto OpenWindows = [] {
     std::array<Window, 256> open{};
     for (std::size_t pattern = 0; pattern < open.size(); ++pattern) {
         Window free = 0;
         for (std::size_t n = 0; n < NearOffsets.size(); ++n) {
             if ((pattern >> n & 1) != 0) free |= AtOffset(NearOffsets[n]);
         }
-        open[pattern] = PlacesWhere(
+        open[pattern] = WindowWhere(
             [free](int columns, int rows) { return AreGuardsIn(free, GuardsOf(columns, rows)); });
     }
     return open;
@@ -63,33 +63,33 @@ constexpr auto OpenPlaces = [] {
 
 // ---- Slides ----
 
-constexpr SetsBySquare ColumnAbove = SquaresRelated(
+constexpr BitboardTable ColumnAbove = SquaresRelated(
     [](int from, int to) { return Column(to) == Column(from) && Row(to) < Row(from); });
-constexpr SetsBySquare ColumnBelow = SquaresRelated(
+constexpr BitboardTable ColumnBelow = SquaresRelated(
     [](int from, int to) { return Column(to) == Column(from) && Row(to) > Row(from); });
 
-SquareSet Moved(SquareSet set, int direction) {
+Bitboard Moved(Bitboard set, int direction) {
     return direction > 0 ? set << direction : set >> -direction;
 }
 
 }  // namespace
 
-constexpr Window NearPlaces =
-    PlacesWhere([](int columns, int rows) { return Squared(columns) <= 1 && Squared(rows) <= 1; });
-constexpr Window HitPlaces =
-    PlacesWhere([](int columns, int rows) { return columns == 0 || rows == 0; });
-constexpr Window PassPlaces = PlacesWhere(IsPassDistance);
+constexpr Window NearWindow =
+    WindowWhere([](int columns, int rows) { return Squared(columns) <= 1 && Squared(rows) <= 1; });
+constexpr Window HitWindow =
+    WindowWhere([](int columns, int rows) { return columns == 0 || rows == 0; });
+constexpr Window PassWindow = WindowWhere(IsPassDistance);
 
-constexpr SetsBySquare Reach = SquaresRelated([](int from, int to) {
+constexpr BitboardTable Reach = SquaresRelated([](int from, int to) {
     const int columns = Column(to) - Column(from);
     const int rows = Row(to) - Row(from);
     return columns == 0 || (Squared(columns) <= 4 && Squared(rows) <= 4);
 });
 
-Window StepsInto(Window free) { return OpenPlaces[NearPattern(free)] & free; }
+Window StepsInto(Window free) { return OpenWindows[NearPattern(free)] & free; }
 
 int SlideUp(const PositionTerms& terms, int square, int leastSteps) {
-    const SquareSet pieces = (terms.Own | terms.Enemy) & ColumnAbove[square];
+    const Bitboard pieces = (terms.Own | terms.Enemy) & ColumnAbove[square];
     if (pieces.IsEmpty()) return NoSquare;
     const int friendSquare = LastIn(pieces);
     const int target = friendSquare + Down;
@@ -98,7 +98,7 @@ int SlideUp(const PositionTerms& terms, int square, int leastSteps) {
 }
 
 int SlideDown(const PositionTerms& terms, int square, int leastSteps) {
-    const SquareSet pieces = (terms.Own | terms.Enemy) & ColumnBelow[square];
+    const Bitboard pieces = (terms.Own | terms.Enemy) & ColumnBelow[square];
     if (pieces.IsEmpty()) return NoSquare;
     const int friendSquare = FirstIn(pieces);
     const int target = friendSquare + Up;
@@ -107,19 +107,19 @@ int SlideDown(const PositionTerms& terms, int square, int leastSteps) {
 }
 
 void FindPushable(const PositionTerms& terms, PushableTargets& pushable) {
-    const SquareSet targets = terms.Targets | terms.JudgedTargets;
-    const SquareSet empty = ~(terms.Own | terms.Enemy);
+    const Bitboard targets = terms.Targets | terms.JudgedTargets;
+    const Bitboard empty = ~(terms.Own | terms.Enemy);
     for (std::size_t n = 0; n < PushDirections.size(); ++n) {
         pushable[n] = targets & Moved(empty, -PushDirections[n]);
     }
 }
 
-SquareSet HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, SquareSet hitters) {
-    SquareSet hits{};
+Bitboard HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, Bitboard hitters) {
+    Bitboard hits{};
     for (std::size_t n = 0; n < PushDirections.size(); ++n) {
-        const SquareSet near = Moved(hitters, PushDirections[n]);
+        const Bitboard near = Moved(hitters, PushDirections[n]);
         // From two squares away only past an empty square, and none that carries a ring.
-        const SquareSet far = Moved(near & terms.Free, PushDirections[n]) & ~terms.Rings;
+        const Bitboard far = Moved(near & terms.Free, PushDirections[n]) & ~terms.Rings;
         hits |= (near | far) & pushable[n];
     }
     return hits;

@@ -8,11 +8,11 @@ namespace brastel {
 // ---- Around a field square ----
 
 /// The eight nearest squares.
-extern const Window NearPlaces;
+extern const Window NearWindow;
 /// Where an enemy must stand to be hit.
-extern const Window HitPlaces;
+extern const Window HitWindow;
 /// Where a ring can be passed to.
-extern const Window PassPlaces;
+extern const Window PassWindow;
 
 /// Free squares that a piece without a ring reaches in one step or two, from the window of free
 /// squares around it.
@@ -24,15 +24,15 @@ int SlideUp(const PositionTerms& terms, int square, int leastSteps);
 int SlideDown(const PositionTerms& terms, int square, int leastSteps);
 
 /// All squares that a piece on a square could ever reach.
-extern const SetsBySquare Reach;
+extern const BitboardTable Reach;
 
 // ---- Hits ----
 
 /// Enemy pieces in the field by the direction in which they can be pushed: up, left, right, down.
-using PushableTargets = std::array<SquareSet, 4>;
+using PushableTargets = std::array<Bitboard, 4>;
 void FindPushable(const PositionTerms& terms, PushableTargets& pushable);
 
 /// What the pieces of a set can hit, whether or not one may push back.
-SquareSet HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, SquareSet hitters);
+Bitboard HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, Bitboard hitters);
 
 }  // namespace brastel

@@ -38,12 +38,12 @@ void ValuePlacements(int depth) {
 /// Finds the highest value at the root, and leaves a candidate that has it in front.
 int SearchRow(RootRow row) {
     const PlySave saved;
-    int best = -Unbounded;
+    int best = -Infinity;
     auto winner = row.begin();
     for (auto candidate = row.begin(); candidate != row.end(); ++candidate) {
         candidate->Value = candidate == row.begin()
-                               ? ValueOf(SearchPly, candidate->Which, -Unbounded, Unbounded, saved)
-                               : ValueOfLater(SearchPly, candidate->Which, best, Unbounded, saved);
+                               ? ValueOf(SearchPly, candidate->Which, -Infinity, Infinity, saved)
+                               : ValueOfLater(SearchPly, candidate->Which, best, Infinity, saved);
         if (candidate->Value > best) winner = candidate;
         best = std::max(best, candidate->Value);
     }
@@ -62,12 +62,12 @@ void ValueRow(RootRow row, int best) {
         return candidate.Value == best &&
                ValueOf(SearchPly, candidate.Which, best - 1, best, saved) == best;
     };
-    double highest = Lowest;
+    double highest = -Infinity;
     for (const RootCandidate& candidate : row) {
         double& value = MoveScores[SearchPly][candidate.Entry];
         value = static_cast<double>(best - candidate.Entry) / UnitsPerPoint;
         if (!isBest(candidate)) continue;
-        value = RoundedValueOf(SearchPly, candidate.Which, best, Lowest, saved);
+        value = RoundedValueOf(SearchPly, candidate.Which, best, -Infinity, saved);
         highest = std::max(highest, value);
     }
     if (highest >= NoScore) return;
@@ -107,7 +107,7 @@ bool CanBePlayed(MoveCode code) { return ActionFits(DecodeMove(code)); }
 /// reaches the best so far tosses a coin, the first one to do so included, so the last of k equals
 /// is taken with probability 1/2, the one before with 1/4.
 Int16 SelectFromRoot(bool (*isAllowed)(MoveCode) = nullptr) {
-    double best = -10000000.0;
+    double best = -Infinity;
     int chosen = 0;
     for (int n = 1; n <= CandidateCount[SearchPly]; ++n) {
         const double value = MoveScores[SearchPly][n];

@@ -27,8 +27,8 @@ Int16 ChooseCandidate(Int16 depth);
 /// the goal cannot be played: it counts as a win, and yet would push the opponent off the board.
 Int16 ChoosePlayable();
 
-/// Rule 8, no movable piece: true if the side to move has no candidate that can be played. Lists its candidates in
-/// row 1.
+/// Rule 8, no movable piece: true if the side to move has no candidate that can be played. Lists
+/// its candidates in row 1.
 bool MustPass();
 
 /// What to play when this candidate of row 1, or 0 for none, was chosen: its own, or that of

@@ -6,8 +6,15 @@ namespace brastel {
 
 namespace {
 
+/// The row of a window so many rows below the centre.
+constexpr Window RowAt(int rows) {
+    const int offset = rows * Down;
+    return AtOffset(offset - 2) | AtOffset(offset - 1) | AtOffset(offset) | AtOffset(offset + 1) |
+           AtOffset(offset + 2);
+}
+
 /// Where the value of a carrier that arrives depends on details.
-constexpr SquareSet JudgedArrivals = SquaresWhere(
+constexpr Bitboard JudgedArrivals = SquaresWhere(
     [](int s) { return IsFieldCorner(s) || IsGoalFront(Red, s) || IsGoalFront(Blue, s); });
 
 // ---- Entries ----
@@ -28,36 +35,36 @@ void AddJudged(Survey& survey, PieceSurvey& piece, Window places) {
     piece.Judged = places;
     for (Window rest = places; rest != 0; rest &= rest - 1) {
         const int destination = piece.Square + FirstOffset(rest);
-        AddValued(survey, piece, destination, ScoreMove(piece.Square, destination));
+        AddValued(survey, piece, destination, ScoreMove({piece.Square, destination}));
     }
 }
 
 void AddPlaces(PieceSurvey& piece, Window places) {
     piece.Places = places;
     if (places == 0) return;
-    piece.Best = std::max(piece.Best, piece.Common + HighestIn(piece.Values, places));
+    piece.Best = std::max(piece.Best, piece.Common + HighestCounter(piece.Values, places));
 }
 
 // ---- Pieces without a ring ----
 
 /// A piece must not push back who has just pushed it.
-SquareSet HitsOf(const Survey& survey, Int16 index, int square) {
-    const SquareSet hits = HitsFrom(survey.Terms, survey.Pushable, OneSquare[square]);
+Bitboard HitsOf(const Survey& survey, Int16 index, int square) {
+    const Bitboard hits = HitsFrom(survey.Terms, survey.Pushable, OneSquare[square]);
     if (Pos.LastHit[1] != index) return hits;
     return hits & ~OneSquare[SquareOf({ToInt16(-survey.Terms.Side), Pos.LastHit[0]})];
 }
 
 void AddSlide(Survey& survey, PieceSurvey& piece, int destination) {
-    const SquareValues& values = DestinationsFrom(survey.Terms, piece.Square);
-    AddLeap(survey, piece, destination, piece.Common + NumberAt(values, destination));
+    const SquareCounters& values = DestinationsFrom(survey.Terms, piece.Square);
+    AddLeap(survey, piece, destination, piece.Common + CounterAt(values, destination));
 }
 
 void SurveyPlainPiece(Survey& survey, PieceSurvey& piece, Int16 index) {
     const PositionTerms& terms = survey.Terms;
     const int square = piece.Square;
     const Window steps = StepsInto(WindowOf(terms.Free, square));
-    const bool isNearEnemy = (WindowOf(terms.Enemy, square) & HitPlaces) != 0;
-    const SquareSet hits = isNearEnemy ? HitsOf(survey, index, square) : SquareSet{};
+    const bool isNearEnemy = (WindowOf(terms.Enemy, square) & HitWindow) != 0;
+    const Bitboard hits = isNearEnemy ? HitsOf(survey, index, square) : Bitboard{};
     AddPlaces(piece, steps | WindowOf(hits & terms.Targets, square));
     AddJudged(survey, piece, WindowOf(hits & terms.JudgedTargets, square));
     piece.FirstLeap = survey.ValuedTotal;
@@ -68,31 +75,29 @@ void SurveyPlainPiece(Survey& survey, PieceSurvey& piece, Int16 index) {
 
 // ---- Carriers ----
 
-/// Four for each row that the ring is brought forward, and one if a friend stands beside its end.
+/// Bonus for the rows that the ring is brought forward, and for a friend beside its new square.
 void AddCarrierTerms(const PositionTerms& terms, PieceSurvey& piece) {
-    constexpr Window row = AtOffset(-2) | AtOffset(-1) | AtOffset(0) | AtOffset(1) | AtOffset(2);
     if (terms.MustAnswer) return;
-    const SquareSet besideFriends =
+    const Bitboard besideFriends =
         terms.Own << 1 | terms.Own >> 1 | terms.Own << 8 | terms.Own >> 8;
-    AddTo(piece.Values, WindowOf(besideFriends, piece.Square), 0);
-    // Counted from two rows behind the carrier, which is worth nothing more, to two rows ahead.
-    piece.Common -= 2 * 4;
-    const bool isRed = terms.Side == Red;
-    AddTo(piece.Values, row << Down | row >> Down, 2);
-    AddTo(piece.Values, isRed ? row | row >> Down : row | row << Down, 3);
-    AddTo(piece.Values, isRed ? row >> 2 * Down : row << 2 * Down, 4);
+    AddTo(piece.Values, WindowOf(besideFriends, piece.Square), Weight::RingBesideFriend);
+    // Counters cannot be negative, so rows are counted from two behind the carrier.
+    piece.Common -= 2 * Weight::RowForward;
+    for (int rows = -1; rows <= 2; ++rows) {
+        AddTo(piece.Values, RowAt(terms.Side * rows), (2 + rows) * Weight::RowForward);
+    }
 }
 
 void AddCarrierSlide(Survey& survey, PieceSurvey& piece, int destination) {
     if (destination == NoSquare) return;
-    AddLeap(survey, piece, destination, ScoreMove(piece.Square, destination));
+    AddLeap(survey, piece, destination, ScoreMove({piece.Square, destination}));
 }
 
 void SurveyCarrier(Survey& survey, PieceSurvey& piece) {
     const PositionTerms& terms = survey.Terms;
     const int square = piece.Square;
     const Window free = WindowOf(terms.Free, square);
-    const Window places = (free & NearPlaces) | (WindowOf(terms.Receivers, square) & PassPlaces);
+    const Window places = (free & NearWindow) | (WindowOf(terms.Receivers, square) & PassWindow);
     const Window judged =
         IsFieldCorner(square) ? places : places & WindowOf(JudgedArrivals, square);
     AddCarrierTerms(terms, piece);
@@ -119,7 +124,7 @@ void SurveyBetter(Survey& survey, int low, int high, bool withEqual) {
     }
     const int more = withEqual ? 0 : 1;
     int best = std::max(low, survey.Best);
-    SquareSet better = PlacesWorth(survey, best + more);
+    Bitboard better = PlacesWorth(survey, best + more);
     for (std::size_t n = 0; n < survey.PieceTotal && best < high && !better.IsEmpty(); ++n) {
         if (!MayReach(survey, n, better)) continue;
         SurveyPiece(survey, n);
@@ -134,12 +139,12 @@ void SurveyBetter(Survey& survey, int low, int high, bool withEqual) {
 void BeginSurvey(Survey& survey) {
     FindTerms(survey.Terms);
     FindPushable(survey.Terms, survey.Pushable);
-    const SquareSet hits = HitsFrom(survey.Terms, survey.Pushable, survey.Terms.Receivers);
+    const Bitboard hits = HitsFrom(survey.Terms, survey.Pushable, survey.Terms.Receivers);
     survey.Places = survey.Terms.Free | hits;
     survey.PieceTotal = static_cast<std::size_t>(PieceCount(survey.Terms.Side));
     survey.Surveyed = 0;
     survey.ValuedTotal = 0;
-    survey.Best = NoValue;
+    survey.Best = NoScore;
 }
 
 void SurveyPiece(Survey& survey, std::size_t n) {
@@ -151,7 +156,7 @@ void SurveyPiece(Survey& survey, std::size_t n) {
     piece.Places = 0;
     piece.Judged = 0;
     piece.Leaps = 0;
-    piece.Best = NoValue - 1;
+    piece.Best = NoScore - 1;
     if (!InField(piece.Square)) return;
     piece.Common = CommonValue(survey.Terms, piece.Square);
     piece.Values = WindowOf(DestinationsFrom(survey.Terms, piece.Square), piece.Square);
@@ -163,19 +168,19 @@ void SurveyPiece(Survey& survey, std::size_t n) {
     survey.Best = std::max(survey.Best, piece.Best);
 }
 
-SquareSet PlacesWorth(const Survey& survey, int value) {
+Bitboard PlacesWorth(const Survey& survey, int value) {
     const PositionTerms& terms = survey.Terms;
     const int common = terms.MustAnswer ? LossValue : terms.Shared;
     return AtLeast(terms.Destination[1], value - common, survey.Places) |
            (survey.Places & terms.JudgedTargets);
 }
 
-bool MayReach(const Survey& survey, std::size_t n, SquareSet places) {
+bool MayReach(const Survey& survey, std::size_t n, Bitboard places) {
     const int square = SquaresOf(survey.Terms.Side)[static_cast<int>(n) + 1];
     return !(places & Reach[square]).IsEmpty();
 }
 
-void SurveyBest(Survey& survey) { SurveyBetter(survey, NoValue, -NoValue, true); }
+void SurveyBest(Survey& survey) { SurveyBetter(survey, NoScore, -NoScore, true); }
 
 int HighestValue(int low, int high) {
     Survey survey;

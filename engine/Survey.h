@@ -21,16 +21,13 @@ inline Candidate CandidateOf(int origin, int destination, int value) {
             ToInt16(value)};
 }
 
-/// NoScore as a whole number.
-constexpr int NoValue = -100000;
-
 /// What one piece can do. In generation order its leaps come first, then the rest by destination.
 struct PieceSurvey {
     int Square;
     /// Destinations of the common candidates, each worth Common and its number in Values.
     Window Places;
     int Common;
-    WindowValues Values;
+    WindowCounters Values;
     /// Destinations of those that ScoreMove values: near a goal much depends on the details.
     Window Judged;
     /// Slides and goal entries.
@@ -38,7 +35,7 @@ struct PieceSurvey {
     /// Where the leaps and the judged candidates begin in Valued of the survey.
     std::size_t FirstLeap;
     std::size_t FirstJudged;
-    /// The highest value of the piece's candidates, less than NoValue if there is none.
+    /// The highest value of the piece's candidates, less than NoScore if there is none.
     int Best;
 };
 
@@ -46,7 +43,7 @@ struct Survey {
     PositionTerms Terms;
     PushableTargets Pushable;
     /// Where pieces without a ring can go, and what they can hit.
-    SquareSet Places;
+    Bitboard Places;
 
     /// The pieces of the side to move by index less one, and which of them are surveyed: bit n
     /// stands for Pieces[n].
@@ -58,7 +55,7 @@ struct Survey {
     std::array<Candidate, std::size_t{MaxPieces} * 23> Valued;
     std::size_t ValuedTotal;
 
-    /// The highest value among the surveyed pieces, NoValue without a candidate.
+    /// The highest value among the surveyed pieces, NoScore without a candidate.
     int Best;
 };
 
@@ -73,10 +70,10 @@ void BeginSurvey(Survey& survey);
 void SurveyPiece(Survey& survey, std::size_t n);
 
 /// The destinations on which a candidate of a piece without a ring can be worth `value` or more.
-SquareSet PlacesWorth(const Survey& survey, int value);
+Bitboard PlacesWorth(const Survey& survey, int value);
 
 /// True if Pieces[n] might do something on one of the squares.
-bool MayReach(const Survey& survey, std::size_t n, SquareSet places);
+bool MayReach(const Survey& survey, std::size_t n, Bitboard places);
 
 /// Surveys all pieces that can have a candidate of the highest value, so that Best is that value.
 void SurveyBest(Survey& survey);

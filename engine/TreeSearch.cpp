@@ -24,8 +24,8 @@ constexpr auto Widths = [] {
 }();
 static_assert(BeamWidth <= MaxBeam);
 
-/// The value of a position whose side has no candidate, or none that is worth more.
-constexpr int Nothing = NoValue * UnitsPerPoint;
+/// NoScore in units.
+constexpr int NoUnits = NoScore * UnitsPerPoint;
 
 /// A win one ply nearer counts this much more.
 constexpr int WinBonusPerPly = 1000;
@@ -73,7 +73,7 @@ const Candidate* NextReply(Replies& replies) {
             ++SearchedPositions;
             BeginSurvey(replies.Candidates);
             SurveyBest(replies.Candidates);
-            if (replies.Candidates.Best == NoValue) return nullptr;
+            if (replies.Candidates.Best == NoScore) return nullptr;
             replies.Stage = Replies::AtBeam;
             First(replies) = FirstOfBest(replies.Candidates);
             if (First(replies) != replies.Remembered) return &First(replies);
@@ -102,8 +102,8 @@ void Remember(MemoryEntry& entry, const MemoryEntry& before, int value, int low,
     const bool hasBounds = before.Depth == Depth;
     entry = before;
     entry.Depth = Depth;
-    entry.Lower = value > low ? value : hasBounds ? before.Lower : -Unbounded;
-    entry.Upper = value < high ? value : hasBounds ? before.Upper : Unbounded;
+    entry.Lower = value > low ? value : hasBounds ? before.Lower : -Infinity;
+    entry.Upper = value < high ? value : hasBounds ? before.Upper : Infinity;
     // If all replies are too weak, none has proved best.
     if (value > low || !hadReply) entry.Reply = reply;
 }
@@ -111,7 +111,7 @@ void Remember(MemoryEntry& entry, const MemoryEntry& before, int value, int low,
 /// Tries the replies of a position one after another and leaves the best in `best`.
 int TryReplies(Replies& replies, int low, int high, Candidate& best) {
     const PlySave saved;
-    int value = Nothing;
+    int value = NoUnits;
     while (value < high) {
         const Candidate* reply = NextReply(replies);
         if (reply == nullptr) break;
@@ -155,7 +155,7 @@ double RoundedValue(int ply, int value, double gain, double least) {
     Survey survey;
     BeginSurvey(survey);
     SurveyBest(survey);
-    if (survey.Best == NoValue) return NoScore;
+    if (survey.Best == NoScore) return NoScore;
     if (IsWin(survey.Best)) return static_cast<double>(value) / UnitsPerPoint;
     const Beam beam = KeepBeam(survey, Widths[ply]);
     const PlySave saved;
@@ -205,10 +205,10 @@ double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
     SurveyBest(survey);
     const Beam beam = KeepBeam(survey, Widths[2]);
     double answer = NoScore;
-    int best = Nothing;
+    int best = NoUnits;
     for (std::size_t n = 0; n < beam.Count && gain - answer >= NoScore; ++n) {
         const Candidate& reply = beam.Candidates[n];
-        const int value = ValueOf(2, reply, best - 1, Unbounded, answered);
+        const int value = ValueOf(2, reply, best - 1, Infinity, answered);
         if (value < best) continue;
         best = value;
         answer = std::max(answer, RoundedValueOf(2, reply, value, answer, answered));

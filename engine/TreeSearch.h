@@ -17,21 +17,6 @@
 /// - Candidates many at a time and only as far as they are asked for (Survey, Beam).
 namespace brastel {
 
-// ---- Values ----
-
-/// A candidate is worth its immediate value / 1.01 less the value of the answer, so every value is
-/// a whole number of 1/101, and that is how the search counts them: different values differ by one
-/// at least, and no rounding can decide what is cut off.
-constexpr int UnitsPerPoint = 101;
-constexpr int Discounted(int immediate) { return immediate * (UnitsPerPoint - 1); }
-
-/// Beyond every value.
-constexpr int Unbounded = 1 << 28;
-
-constexpr bool IsWin(double immediate) { return immediate > WinValue - 1; }
-
-// ---- Operations ----
-
 /// Begins a search to a depth of 2 to MaxPly. Needs both rings placed. Positions remembered from
 /// shallower searches of the same root serve it; those of another root must be forgotten first,
 /// since the side to move counts from there.
@@ -43,9 +28,6 @@ int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySav
 
 /// The same for a candidate that is probably not better than `low`.
 int ValueOfLater(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
-
-/// No value.
-constexpr double Lowest = -1e9;
 
 /// The value of a candidate as plain arithmetic rounds it, when its exact value is known: the
 /// division and the subtraction of every ply in floating point, and the highest result of all lines

@@ -32,7 +32,7 @@ void CompareBeam(const std::vector<Candidate>& row, int width) {
     Survey survey;
     BeginSurvey(survey);
     SurveyBest(survey);
-    ASSERT_EQ(survey.Best, row.empty() ? NoValue : row.front().Value);
+    ASSERT_EQ(survey.Best, row.empty() ? NoScore : row.front().Value);
     if (row.empty()) return;
     EXPECT_TRUE(FirstOfBest(survey) == row.front());
     const Beam beam = KeepBeam(survey, width);
@@ -50,7 +50,7 @@ void CompareWithSortedRow() {
         row.push_back(CandidateOf(origin, destination, static_cast<int>(MoveScores[1][n])));
     }
     for (const int width : {32, 14, 7, 5, 4, 1}) CompareBeam(row, width);
-    CompareHighestValue(row.empty() ? NoValue : row.front().Value);
+    CompareHighestValue(row.empty() ? NoScore : row.front().Value);
 }
 
 /// The survey must list what the generator lists and the beam keep what the sort puts first, among

@@ -14,10 +14,10 @@ void ExpectVerdict(const std::string& pieces, int from, int to, bool isCovered) 
     const int verdict = isCovered ? 9000 : 0;
     Place(pieces);
     Pos.SideToMove = Red;
-    EXPECT_EQ(GoalFrontCheck(from, to), -verdict) << pieces;
+    EXPECT_EQ(GoalFrontCheck({from, to}), -verdict) << pieces;
     Place(Turned(pieces));
     Pos.SideToMove = Blue;
-    EXPECT_EQ(GoalFrontCheck(Turned(from), Turned(to)), verdict) << pieces;
+    EXPECT_EQ(GoalFrontCheck({Turned(from), Turned(to)}), verdict) << pieces;
 }
 
 /// Below boards that stand side by side comes a line with a move and a verdict for each of them.

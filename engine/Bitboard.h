@@ -11,12 +11,12 @@ namespace brastel {
 
 /// A set of squares 1 to 112: square s is bit s + SquareBit of 128. The halves are one vector,
 /// which compilers keep in one register; 128-bit integers they shift with slow instructions.
-class SquareSet {
+class Bitboard {
     using Halves = std::uint64_t __attribute__((vector_size(16)));
 
 public:
-    SquareSet() = default;
-    constexpr SquareSet(std::uint64_t low, std::uint64_t high) : Bits{low, high} {}
+    Bitboard() = default;
+    constexpr Bitboard(std::uint64_t low, std::uint64_t high) : Bits{low, high} {}
 
     std::uint64_t Low() const { return Bits[0]; }
     std::uint64_t High() const { return Bits[1]; }
@@ -30,26 +30,26 @@ public:
     }
     bool IsEmpty() const { return (Low() | High()) == 0; }
 
-    friend SquareSet operator&(SquareSet a, SquareSet b) { return SquareSet(a.Bits & b.Bits); }
-    friend SquareSet operator|(SquareSet a, SquareSet b) { return SquareSet(a.Bits | b.Bits); }
-    friend SquareSet operator^(SquareSet a, SquareSet b) { return SquareSet(a.Bits ^ b.Bits); }
-    friend SquareSet operator~(SquareSet a) { return SquareSet(~a.Bits); }
-    SquareSet& operator|=(SquareSet b) { return *this = *this | b; }
-    SquareSet& operator&=(SquareSet b) { return *this = *this & b; }
-    SquareSet& operator^=(SquareSet b) { return *this = *this ^ b; }
+    friend Bitboard operator&(Bitboard a, Bitboard b) { return Bitboard(a.Bits & b.Bits); }
+    friend Bitboard operator|(Bitboard a, Bitboard b) { return Bitboard(a.Bits | b.Bits); }
+    friend Bitboard operator^(Bitboard a, Bitboard b) { return Bitboard(a.Bits ^ b.Bits); }
+    friend Bitboard operator~(Bitboard a) { return Bitboard(~a.Bits); }
+    Bitboard& operator|=(Bitboard b) { return *this = *this | b; }
+    Bitboard& operator&=(Bitboard b) { return *this = *this & b; }
+    Bitboard& operator^=(Bitboard b) { return *this = *this ^ b; }
 
     /// The set moved by 1 to 63 squares, to higher or to lower numbers.
-    friend SquareSet operator<<(SquareSet a, int squares) {
+    friend Bitboard operator<<(Bitboard a, int squares) {
         const Halves carried{0, a.Bits[0]};
-        return SquareSet((a.Bits << squares) | (carried >> (64 - squares)));
+        return Bitboard((a.Bits << squares) | (carried >> (64 - squares)));
     }
-    friend SquareSet operator>>(SquareSet a, int squares) {
+    friend Bitboard operator>>(Bitboard a, int squares) {
         const Halves carried{a.Bits[1], 0};
-        return SquareSet((a.Bits >> squares) | (carried << (64 - squares)));
+        return Bitboard((a.Bits >> squares) | (carried << (64 - squares)));
     }
 
 private:
-    explicit SquareSet(Halves bits) : Bits(bits) {}
+    explicit Bitboard(Halves bits) : Bits(bits) {}
 
     Halves Bits;
 };
@@ -59,7 +59,7 @@ constexpr int SquareBit = 8;
 
 /// The squares for which the predicate holds.
 template <typename Predicate>
-constexpr SquareSet SquaresWhere(Predicate predicate) {
+constexpr Bitboard SquaresWhere(Predicate predicate) {
     std::uint64_t low = 0;
     std::uint64_t high = 0;
     for (int square = FirstSquare; square <= LastSquare; ++square) {
@@ -70,12 +70,12 @@ constexpr SquareSet SquaresWhere(Predicate predicate) {
 }
 
 /// A set for each square, NoSquare included.
-using SetsBySquare = Table<SquareSet, NoSquare, LastSquare>;
+using BitboardTable = Table<Bitboard, NoSquare, LastSquare>;
 
 /// For each square those that stand in the relation to it; none for NoSquare.
 template <typename Relation>
-constexpr SetsBySquare SquaresRelated(Relation isRelated) {
-    SetsBySquare sets{};
+constexpr BitboardTable SquaresRelated(Relation isRelated) {
+    BitboardTable sets{};
     for (int from = FirstSquare; from <= LastSquare; ++from) {
         sets[from] = SquaresWhere([&](int to) { return isRelated(from, to); });
     }
@@ -83,22 +83,22 @@ constexpr SetsBySquare SquaresRelated(Relation isRelated) {
 }
 
 /// The sets of one square, and the empty one of NoSquare.
-constexpr SetsBySquare OneSquare = SquaresRelated([](int from, int to) { return to == from; });
+constexpr BitboardTable OneSquare = SquaresRelated([](int from, int to) { return to == from; });
 
-inline bool Holds(const SquareSet& set, int square) {
+inline bool Holds(const Bitboard& set, int square) {
     const unsigned bit = static_cast<unsigned>(square + SquareBit);
     return (set.HalfWith(bit) >> bit % 64 & 1) != 0;
 }
 
-inline int SizeOf(SquareSet set) { return std::popcount(set.Low()) + std::popcount(set.High()); }
+inline int CountOf(Bitboard set) { return std::popcount(set.Low()) + std::popcount(set.High()); }
 
 /// The lowest and the highest square of a set that is not empty.
-inline int FirstIn(SquareSet set) {
+inline int FirstIn(Bitboard set) {
     const int bit =
         set.Low() != 0 ? std::countr_zero(set.Low()) : 64 + std::countr_zero(set.High());
     return bit - SquareBit;
 }
-inline int LastIn(SquareSet set) {
+inline int LastIn(Bitboard set) {
     const int bit =
         set.High() != 0 ? 127 - std::countl_zero(set.High()) : 63 - std::countl_zero(set.Low());
     return bit - SquareBit;
@@ -113,7 +113,7 @@ using Window = std::uint64_t;
 constexpr int WindowReach = 2 * Down + 2 * Right;
 
 /// The part of a set around a field square.
-inline Window WindowOf(const SquareSet& set, int centre) {
+inline Window WindowOf(const Bitboard& set, int centre) {
     const unsigned first = static_cast<unsigned>(centre + SquareBit - WindowReach);
     const unsigned shift = first % 64;
     const Window fromHigh = set.High() << 1 << (63 - shift);
