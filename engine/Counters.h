@@ -18,7 +18,7 @@ using WindowCounters = std::array<Window, DigitCount>;
 /// Adds a number, 0 to MaxCounter, to the counters of the given squares. Returns the squares whose
 /// sum is above MaxCounter: their counters are wrong and must not be read.
 template <typename Set>
-Set AddTo(std::array<Set, DigitCount>& digits, Set squares, int number) {
+constexpr Set AddTo(std::array<Set, DigitCount>& digits, Set squares, int number) {
     Set overflow{};
     for (std::size_t digit = 0; digit < DigitCount; ++digit) {
         if ((number >> digit & 1) == 0) continue;
@@ -31,6 +31,18 @@ Set AddTo(std::array<Set, DigitCount>& digits, Set squares, int number) {
         overflow |= carry;
     }
     return overflow;
+}
+
+/// Adds counters to others.
+inline Window Add(WindowCounters& sums, const WindowCounters& numbers) {
+    Window carry = 0;
+    for (std::size_t n = 0; n < DigitCount; ++n) {
+        const Window odd = sums[n] ^ numbers[n];
+        const Window carried = (sums[n] & numbers[n]) | (odd & carry);
+        sums[n] = odd ^ carry;
+        carry = carried;
+    }
+    return carry;
 }
 
 /// The squares of `all` whose number is at least the given one, which may be any.

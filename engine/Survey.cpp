@@ -6,13 +6,6 @@ namespace brastel {
 
 namespace {
 
-/// The row of a window so many rows below the centre.
-constexpr Window RowAt(int rows) {
-    const int offset = rows * Down;
-    return AtOffset(offset - 2) | AtOffset(offset - 1) | AtOffset(offset) | AtOffset(offset + 1) |
-           AtOffset(offset + 2);
-}
-
 /// Where the value of a carrier that arrives depends on details.
 constexpr Bitboard JudgedArrivals = SquaresWhere(
     [](int s) { return IsFieldCorner(s) || IsGoalFront(Red, s) || IsGoalFront(Blue, s); });
@@ -75,17 +68,28 @@ void SurveyPlainPiece(Survey& survey, PieceSurvey& piece, Int16 index) {
 
 // ---- Carriers ----
 
-/// Bonus for the rows that the ring is brought forward, and for a friend beside its new square.
+/// What a carrier gains by the rows that it goes forward. Counters cannot be negative, so the rows
+/// are counted from two behind the carrier.
+constexpr WindowCounters ForwardGains(int side) {
+    WindowCounters gains{};
+    for (int rows = -1; rows <= 2; ++rows) {
+        const int centre = rows * Forward(side);
+        Window row = 0;
+        for (int columns = -2; columns <= 2; ++columns) row |= AtOffset(centre + columns);
+        AddTo(gains, row, (2 + rows) * Weight::RowForward);
+    }
+    return gains;
+}
+constexpr WindowCounters RedGains = ForwardGains(Red);
+constexpr WindowCounters BlueGains = ForwardGains(Blue);
+
 void AddCarrierTerms(const PositionTerms& terms, PieceSurvey& piece) {
     if (terms.MustAnswer) return;
     const Bitboard besideFriends =
         terms.Own << 1 | terms.Own >> 1 | terms.Own << 8 | terms.Own >> 8;
     AddTo(piece.Values, WindowOf(besideFriends, piece.Square), Weight::RingBesideFriend);
-    // Counters cannot be negative, so rows are counted from two behind the carrier.
     piece.Common -= 2 * Weight::RowForward;
-    for (int rows = -1; rows <= 2; ++rows) {
-        AddTo(piece.Values, RowAt(terms.Side * rows), (2 + rows) * Weight::RowForward);
-    }
+    Add(piece.Values, terms.Side == Red ? RedGains : BlueGains);
 }
 
 void AddCarrierSlide(Survey& survey, PieceSurvey& piece, int destination) {
