@@ -22,16 +22,16 @@ void Generation(benchmark::State& state) {
 BENCHMARK(Generation);
 
 /// What the search does at the inner plies instead: the candidates that it keeps.
-void SurveyAndBeam(benchmark::State& state) {
+void CandidateSetAndBeam(benchmark::State& state) {
     SetUpBenchPosition(MiddleGame);
-    Survey survey;
+    CandidateSet set;
     while (state.KeepRunning()) {
-        BeginSurvey(survey);
-        SurveyBest(survey);
-        benchmark::DoNotOptimize(KeepBeam(survey, static_cast<int>(state.range(0))));
+        BeginCandidates(set);
+        GenerateBest(set);
+        benchmark::DoNotOptimize(KeepBeam(set, static_cast<int>(state.range(0))));
     }
 }
-BENCHMARK(SurveyAndBeam)->Arg(4)->Arg(10)->Arg(MaxBeam);
+BENCHMARK(CandidateSetAndBeam)->Arg(4)->Arg(10)->Arg(MaxBeam);
 
 /// And at the deepest ply: the highest value alone.
 void BestReply(benchmark::State& state) {

@@ -42,40 +42,40 @@ void List(Shortlist& list, Candidate candidate, int place) {
     list.Entries[list.Count++] = {RankOf(candidate.Value, place), candidate};
 }
 
-Candidate CommonCandidate(const PieceSurvey& piece, int bit) {
-    return CandidateOf(piece.Square, piece.Square + bit - WindowReach,
-                       piece.Common + CounterAt(piece.Values, bit));
+Candidate CommonAt(const PieceCandidates& piece, int bit) {
+    return CandidateOf({piece.Square, piece.Square + bit - WindowReach},
+                       piece.Base + CounterAt(piece.Added, bit));
 }
 
-void ListPiece(Shortlist& list, const Survey& survey, const PieceSurvey& piece) {
-    const Window all = piece.Places | piece.Judged;
+void ListPiece(Shortlist& list, const CandidateSet& set, const PieceCandidates& piece) {
+    const Window all = piece.Common | piece.Scored;
     const bool isExact = list.NextPlace < list.ExactPlaces;
     const int firstPlace = list.NextPlace;
-    list.NextPlace += isExact ? piece.Leaps + std::popcount(all) : PlacesOfPiece;
+    list.NextPlace += isExact ? piece.Distant + std::popcount(all) : PlacesOfPiece;
     if (piece.Best < list.Threshold) return;
-    for (int n = 0; n < piece.Leaps; ++n) {
-        List(list, survey.Valued[piece.FirstLeap + static_cast<std::size_t>(n)], firstPlace + n);
+    for (int n = 0; n < piece.Distant; ++n) {
+        List(list, set.Listed[piece.FirstDistant + static_cast<std::size_t>(n)], firstPlace + n);
     }
-    const Candidate* judged = &survey.Valued[piece.FirstJudged];
+    const Candidate* judged = &set.Listed[piece.FirstScored];
     const Window worthy =
-        AtLeast(piece.Values, list.Threshold - piece.Common, piece.Places) | piece.Judged;
+        AtLeast(piece.Added, list.Threshold - piece.Base, piece.Common) | piece.Scored;
     for (Window rest = worthy; rest != 0; rest &= rest - 1) {
         const int bit = std::countr_zero(rest);
         const int before = isExact ? std::popcount(all & ((rest & -rest) - 1)) : bit;
-        const bool isJudged = (piece.Judged >> bit & 1) != 0;
-        List(list, isJudged ? *judged++ : CommonCandidate(piece, bit),
-             firstPlace + piece.Leaps + before);
+        const bool isJudged = (piece.Scored >> bit & 1) != 0;
+        List(list, isJudged ? *judged++ : CommonAt(piece, bit),
+             firstPlace + piece.Distant + before);
     }
 }
 
 /// Leaves out pieces that cannot have a candidate to list, unless their places count.
-void ListPieces(Shortlist& list, Survey& survey) {
-    const Bitboard places = PlacesWorth(survey, list.Threshold);
-    for (std::size_t n = 0; n < survey.PieceTotal; ++n) {
-        const bool mayList = IsSurveyed(survey, n) || MayReach(survey, n, places);
+void ListPieces(Shortlist& list, CandidateSet& set) {
+    const Bitboard places = DestinationsWorth(set, list.Threshold);
+    for (std::size_t n = 0; n < set.PieceTotal; ++n) {
+        const bool mayList = IsGenerated(set, n) || MayReach(set, n, places);
         if (!mayList && list.NextPlace >= list.ExactPlaces) continue;
-        SurveyPiece(survey, n);
-        ListPiece(list, survey, survey.Pieces[n]);
+        GeneratePiece(set, n);
+        ListPiece(list, set, set.Pieces[n]);
     }
 }
 
@@ -108,28 +108,28 @@ Beam SelectBeam(Shortlist& list, int width) {
 
 /// How far below the best value the beam probably reaches: to where candidates have as many
 /// destinations as it is wide.
-int LikelyDepth(const Survey& survey, int width) {
+int LikelyDepth(const CandidateSet& set, int width) {
     constexpr int deepest = 12;
     int depth = 1;
-    while (depth < deepest && CountOf(PlacesWorth(survey, survey.Best - depth)) < width) ++depth;
+    while (depth < deepest && CountOf(DestinationsWorth(set, set.Best - depth)) < width) ++depth;
     return depth;
 }
 
 }  // namespace
 
-Candidate FirstOfBest(const Survey& survey) {
+Candidate FirstOfBest(const CandidateSet& set) {
     std::size_t n = 0;
-    while (!IsSurveyed(survey, n) || survey.Pieces[n].Best != survey.Best) ++n;
-    Shortlist list(survey.Best, 0);
-    ListPiece(list, survey, survey.Pieces[n]);
+    while (!IsGenerated(set, n) || set.Pieces[n].Best != set.Best) ++n;
+    Shortlist list(set.Best, 0);
+    ListPiece(list, set, set.Pieces[n]);
     return list.Entries[0].Which;
 }
 
-Beam KeepBeam(Survey& survey, int width) {
+Beam KeepBeam(CandidateSet& set, int width) {
     constexpr int deepest = 24;
-    for (int depth = LikelyDepth(survey, width);; depth *= 2) {
-        Shortlist list(depth <= deepest ? survey.Best - depth : NoScore, width);
-        ListPieces(list, survey);
+    for (int depth = LikelyDepth(set, width);; depth *= 2) {
+        Shortlist list(depth <= deepest ? set.Best - depth : NoScore, width);
+        ListPieces(list, set);
         const bool isEnough = list.Count >= static_cast<std::size_t>(width);
         if (isEnough || depth > deepest) return SelectBeam(list, width);
     }

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Survey.h"
+#include "engine/CandidateSet.h"
 
 /// Which of the surveyed candidates the search looks at: those that GenerateMoves and
 /// SortCandidates put first, found without listing or sorting the rest.
@@ -15,10 +15,10 @@ struct Beam {
 };
 
 /// The candidate that the sort puts first. The best is surveyed, and there is a candidate.
-Candidate FirstOfBest(const Survey& survey);
+Candidate FirstOfBest(const CandidateSet& set);
 
 /// The first `width` candidates, 1 to MaxBeam, of the sorted row, or all if there are less. Surveys
 /// what is missing; the best is surveyed.
-Beam KeepBeam(Survey& survey, int width);
+Beam KeepBeam(CandidateSet& set, int width);
 
 }  // namespace brastel

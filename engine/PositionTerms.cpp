@@ -47,6 +47,15 @@ constexpr SideSets BlueSets = SetsOf(Blue);
 
 // ---- Sums ----
 
+// SumOf adds bitboards that count one and a bitboard that counts two.
+static_assert(Weight::Contact == 1 && Weight::GoalColumn == 1 && Weight::PassPrepared == 1);
+static_assert(Weight::DiagonalToRing == 1 && Weight::BesideRing == 2);
+// No destination adds more than a counter holds.
+static_assert(4 * Weight::Contact + Weight::GoalColumn + 2 * Weight::PassPrepared +
+                  Weight::DiagonalToRing + Weight::BesideRing + Weight::Hit + Weight::RingTaken +
+                  Weight::CarrierAnswered <=
+              MaxCounter);
+
 /// A number 0 to 7 for each square.
 struct SmallValues {
     Bitboard Ones;
@@ -89,17 +98,12 @@ int CrowdingValue(const PositionTerms& terms, const SideSets& sets) {
     return surplus >= Weight::CrowdSurplus ? Weight::Crowd : 0;
 }
 
-static_assert(Weight::Contact == 1);
-
 /// For each piece how many of its side stand beside it.
 SmallValues Contacts(Bitboard own, Bitboard enemy) {
     return SumOf({(own & own << 1) | (enemy & enemy << 1), (own & own >> 1) | (enemy & enemy >> 1),
                   (own & own << 8) | (enemy & enemy << 8), (own & own >> 8) | (enemy & enemy >> 8)},
                  Bitboard{});
 }
-
-static_assert(Weight::GoalColumn == 1 && Weight::DiagonalToRing == 1);
-static_assert(Weight::PassPrepared == 1 && Weight::BesideRing == 2);
 
 /// Goal columns, squares near the rings, and prepared passes.
 SmallValues PlaceValues(const PositionTerms& terms, const SideSets& sets) {
@@ -140,9 +144,9 @@ void FindTerms(PositionTerms& terms) {
     terms.Free = Field & ~(terms.Own | terms.Enemy);
     terms.Receivers = Field & terms.Own & ~terms.Rings;
     terms.Carriers = Field & terms.Own & terms.Rings;
-    terms.JudgedTargets = terms.Enemy & terms.Rings & (RedFront | BlueFront);
-    terms.Targets = Field & terms.Enemy & ~terms.JudgedTargets;
-    terms.MustAnswer = !(terms.JudgedTargets & (side == Red ? BlueFront : RedFront)).IsEmpty();
+    terms.ScoredTargets = terms.Enemy & terms.Rings & (RedFront | BlueFront);
+    terms.Targets = Field & terms.Enemy & ~terms.ScoredTargets;
+    terms.MustAnswer = !(terms.ScoredTargets & (side == Red ? BlueFront : RedFront)).IsEmpty();
     terms.Shared = side * Weight::PieceOutside * Pos.OutsideBalance + CrowdingValue(terms, sets);
     if (terms.MustAnswer) {
         terms.Destination = {};

@@ -4,8 +4,8 @@
 #include "engine/Evaluation.h"
 #include "engine/EvaluationTerms.h"
 
-/// What the immediate values of all candidates of a position have in common: found once for the
-/// position, where ScoreMove finds it again for every candidate.
+/// What the immediate values of all candidates of a position have in common, found once for the
+/// position. ScoreMove finds it again for every candidate.
 namespace brastel {
 
 struct PositionTerms {
@@ -19,18 +19,18 @@ struct PositionTerms {
     /// Own pieces in the field, without and with a ring.
     Bitboard Receivers;
     Bitboard Carriers;
-    /// Enemy pieces in the field: those on which a hit has a common value, and carriers in front of
-    /// a goal, where ScoreMove must try it.
+    /// Enemy pieces in the field. The value of a hit on a target is a sum of terms; the scored
+    /// targets are carriers in front of a goal, and hits on them need ScoreMove.
     Bitboard Targets;
-    Bitboard JudgedTargets;
-    /// An enemy carrier stands at its goal: every candidate but a hit on it, or a win, is worth
-    /// LossValue.
+    Bitboard ScoredTargets;
+    /// An enemy carrier stands in front of its goal: every candidate but a hit on it, or a win, is
+    /// worth LossValue.
     bool MustAnswer;
     /// Part of every other candidate's value.
     int Shared;
-    /// What its destination adds to the value of a candidate, a step, hit or pass according to what
-    /// stands there: for origins that do not answer an advanced carrier, and for those that do,
-    /// where it is at least as much. 0 when MustAnswer.
+    /// What a candidate's destination adds to its value, whether it is a step, a hit or a pass. The
+    /// second is for origins that answer an advanced carrier, and nowhere lower than the first. All
+    /// 0 when MustAnswer.
     std::array<SquareCounters, 2> Destination;
 };
 
@@ -38,7 +38,7 @@ struct PositionTerms {
 void FindTerms(PositionTerms& terms);
 
 /// The value of a common candidate from an origin, before what its destination adds.
-inline int CommonValue(const PositionTerms& terms, int origin) {
+inline int BaseValue(const PositionTerms& terms, int origin) {
     return terms.MustAnswer ? LossValue
                             : terms.Shared - Weight::GoalColumn * int{IsGoalColumn(Column(origin))};
 }

@@ -107,7 +107,7 @@ int SlideDown(const PositionTerms& terms, int square, int leastSteps) {
 }
 
 void FindPushable(const PositionTerms& terms, PushableTargets& pushable) {
-    const Bitboard targets = terms.Targets | terms.JudgedTargets;
+    const Bitboard targets = terms.Targets | terms.ScoredTargets;
     const Bitboard empty = ~(terms.Own | terms.Enemy);
     for (std::size_t n = 0; n < PushDirections.size(); ++n) {
         pushable[n] = targets & Moved(empty, -PushDirections[n]);

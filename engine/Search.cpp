@@ -87,7 +87,7 @@ void SearchRoot(Int16 depth) {
     for (int n = 1; n <= count; ++n) {
         const auto [origin, destination] = DecodeMove(MoveList[SearchPly][n]);
         const int value = static_cast<int>(MoveScores[SearchPly][n]);
-        candidates[static_cast<std::size_t>(n - 1)] = {CandidateOf(origin, destination, value), n,
+        candidates[static_cast<std::size_t>(n - 1)] = {CandidateOf({origin, destination}, value), n,
                                                        0};
     }
     const RootRow row(candidates.data(), static_cast<std::size_t>(count));

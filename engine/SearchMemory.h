@@ -1,6 +1,6 @@
 #pragma once
 
-#include "engine/Survey.h"
+#include "engine/CandidateSet.h"
 
 /// What the search remembers of the positions that it has looked at: one reached by another order
 /// of moves, or again by a deeper search, is not searched anew.

@@ -46,7 +46,7 @@ struct Replies {
     /// From memory; Origin 0 is none.
     Candidate Remembered;
     enum { AtRemembered, AtFirst, AtBeam, InBeam } Stage = AtRemembered;
-    Survey Candidates;
+    CandidateSet Candidates;
     Beam Kept;
     std::size_t Next;
 };
@@ -71,8 +71,8 @@ const Candidate* NextReply(Replies& replies) {
             [[fallthrough]];
         case Replies::AtFirst:
             ++SearchedPositions;
-            BeginSurvey(replies.Candidates);
-            SurveyBest(replies.Candidates);
+            BeginCandidates(replies.Candidates);
+            GenerateBest(replies.Candidates);
             if (replies.Candidates.Best == NoScore) return nullptr;
             replies.Stage = Replies::AtBeam;
             First(replies) = FirstOfBest(replies.Candidates);
@@ -152,12 +152,12 @@ int SearchReplies(int ply, int low, int high) {
 /// more than `least`, any bound from below will do.
 double RoundedValue(int ply, int value, double gain, double least) {
     if (ply == Depth) return static_cast<double>(value) / UnitsPerPoint;
-    Survey survey;
-    BeginSurvey(survey);
-    SurveyBest(survey);
-    if (survey.Best == NoScore) return NoScore;
-    if (IsWin(survey.Best)) return static_cast<double>(value) / UnitsPerPoint;
-    const Beam beam = KeepBeam(survey, Widths[ply]);
+    CandidateSet set;
+    BeginCandidates(set);
+    GenerateBest(set);
+    if (set.Best == NoScore) return NoScore;
+    if (IsWin(set.Best)) return static_cast<double>(value) / UnitsPerPoint;
+    const Beam beam = KeepBeam(set, Widths[ply]);
     const PlySave saved;
     double best = NoScore;
     for (std::size_t n = 0; n < beam.Count && gain - best > least; ++n) {
@@ -174,7 +174,7 @@ void BeginTree(int depth) { Depth = depth; }
 
 int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved) {
     const int gain = Discounted(candidate.Value);
-    ApplyMoveQuiet({candidate.Origin, candidate.Destination});
+    ApplyMoveQuiet(ActionOf(candidate));
     const int value = gain - SearchReplies(ply + 1, gain - high, gain - low);
     saved.Restore();
     return value;
@@ -189,7 +189,7 @@ int ValueOfLater(int ply, const Candidate& candidate, int low, int high, const P
 double RoundedValueOf(int ply, const Candidate& candidate, int value, double least,
                       const PlySave& saved) {
     const double gain = candidate.Value / Discount;
-    ApplyMoveQuiet({candidate.Origin, candidate.Destination});
+    ApplyMoveQuiet(ActionOf(candidate));
     const double answer = RoundedValue(ply + 1, Discounted(candidate.Value) - value, gain, least);
     saved.Restore();
     return gain - answer;
@@ -198,12 +198,12 @@ double RoundedValueOf(int ply, const Candidate& candidate, int value, double lea
 double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
     assert(Depth >= 3);
     const double gain = candidate.Value / Discount;
-    ApplyMoveQuiet({candidate.Origin, candidate.Destination});
+    ApplyMoveQuiet(ActionOf(candidate));
     const PlySave answered;
-    Survey survey;
-    BeginSurvey(survey);
-    SurveyBest(survey);
-    const Beam beam = KeepBeam(survey, Widths[2]);
+    CandidateSet set;
+    BeginCandidates(set);
+    GenerateBest(set);
+    const Beam beam = KeepBeam(set, Widths[2]);
     double answer = NoScore;
     int best = NoUnits;
     for (std::size_t n = 0; n < beam.Count && gain - answer >= NoScore; ++n) {

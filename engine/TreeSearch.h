@@ -1,7 +1,7 @@
 #pragma once
 
 #include "core/QuietMove.h"
-#include "engine/Survey.h"
+#include "engine/CandidateSet.h"
 
 /// The search below the root: what a candidate is worth when both sides answer as well as they can.
 ///
@@ -14,7 +14,7 @@
 /// - Memory of positions: bounds for one reached before, the reply to begin with (SearchMemory).
 /// - Shallower searches first, which fill that memory (the root, in Search).
 /// - Replies that are likely best come before the beam is even known (Replies).
-/// - Candidates many at a time and only as far as they are asked for (Survey, Beam).
+/// - Candidates many at a time and only as far as they are asked for (CandidateSet, Beam).
 namespace brastel {
 
 /// Begins a search to a depth of 2 to MaxPly. Needs both rings placed. Positions remembered from

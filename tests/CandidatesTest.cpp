@@ -29,13 +29,13 @@ void CompareHighestValue(int highest) {
 }
 
 void CompareBeam(const std::vector<Candidate>& row, int width) {
-    Survey survey;
-    BeginSurvey(survey);
-    SurveyBest(survey);
-    ASSERT_EQ(survey.Best, row.empty() ? NoScore : row.front().Value);
+    CandidateSet set;
+    BeginCandidates(set);
+    GenerateBest(set);
+    ASSERT_EQ(set.Best, row.empty() ? NoScore : row.front().Value);
     if (row.empty()) return;
-    EXPECT_TRUE(FirstOfBest(survey) == row.front());
-    const Beam beam = KeepBeam(survey, width);
+    EXPECT_TRUE(FirstOfBest(set) == row.front());
+    const Beam beam = KeepBeam(set, width);
     ASSERT_EQ(beam.Count, std::min(row.size(), static_cast<std::size_t>(width)));
     EXPECT_TRUE(std::equal(&beam.Candidates[0], &beam.Candidates[0] + beam.Count, row.begin()));
 }
@@ -47,13 +47,13 @@ void CompareWithSortedRow() {
     std::vector<Candidate> row;
     for (int n = 1; n <= CandidateCount[1]; ++n) {
         const auto [origin, destination] = DecodeMove(MoveList[1][n]);
-        row.push_back(CandidateOf(origin, destination, static_cast<int>(MoveScores[1][n])));
+        row.push_back(CandidateOf({origin, destination}, static_cast<int>(MoveScores[1][n])));
     }
     for (const int width : {32, 14, 7, 5, 4, 1}) CompareBeam(row, width);
     CompareHighestValue(row.empty() ? NoScore : row.front().Value);
 }
 
-/// The survey must list what the generator lists and the beam keep what the sort puts first, among
+/// The set must list what the generator lists and the beam keep what the sort puts first, among
 /// equals, too, which the sort shuffles.
 TEST(CandidatesTest, TheSurveyAgreesWithTheSortedRow) {
     Dice dice(1);
