@@ -51,6 +51,12 @@ int LayoutPieces(int layout) {
     return layout >= 0 && layout < LayoutCount ? LayoutAt(layout).Count : 0;
 }
 
+const std::array<Int16, MaxPieces>& StartSquares(int side, int pieces) {
+    const auto found = std::ranges::find(Layouts, pieces, &Layout::Count);
+    const Layout& layout = found != Layouts.end() ? *found : LayoutAt(FreeSetupLayout);
+    return side == Red ? layout.RedSquares : layout.BlueSquares;
+}
+
 void SelectStartLayout(int layout) {
     if (layout < 0 || layout >= LayoutCount) return;
     const Layout& chosen = LayoutAt(layout);

@@ -17,6 +17,10 @@ constexpr int FreeSetupLayout = 6;
 /// Pieces a side of layout 0 to 6: 2, 4, 6, 8 (the standard game), 10, 12 or 0.
 int LayoutPieces(int layout);
 
+/// The start squares of a side in the layout with this number of pieces, in index order, then
+/// NoSquare. Only NoSquare if there is no such layout.
+const std::array<Int16, MaxPieces>& StartSquares(int side, int pieces);
+
 /// Makes layout 0 to 6 the start of the games to come: sets both counts and the start tables, for
 /// FreeSetupLayout only the counts. The board follows at the next SetUpStartPosition. Another
 /// number is ignored.

@@ -6,11 +6,11 @@
 #include <cstdint>
 #include <cstring>
 
-/// Sets of board squares, so that one operation asks about many squares at once.
+/// Bitboards: sets of board squares, one bit each.
 namespace brastel {
 
-/// A set of squares 1 to 112: square s is bit s + SquareBit of 128. The halves are one vector,
-/// which compilers keep in one register; 128-bit integers they shift with slow instructions.
+/// A set of squares 1 to 112: square s is bit s + SquareBit of 128. A vector of two halves stays in
+/// one register, and its shifts are faster than those of a 128-bit integer.
 class Bitboard {
     using Halves = std::uint64_t __attribute__((vector_size(16)));
 
@@ -20,8 +20,8 @@ public:
 
     std::uint64_t Low() const { return Bits[0]; }
     std::uint64_t High() const { return Bits[1]; }
-    /// The half with a bit, 0 to 127. Read from memory, where sets mostly are: taking it from the
-    /// register goes through memory, too, but waits.
+    /// The half with a bit, 0 to 127. Read from memory: extracting it from a register by a variable
+    /// index costs a store-forwarding stall.
     std::uint64_t HalfWith(unsigned bit) const {
         std::uint64_t half = 0;
         const char* halves = reinterpret_cast<const char*>(&Bits);
@@ -35,15 +35,16 @@ public:
     friend Bitboard operator^(Bitboard a, Bitboard b) { return Bitboard(a.Bits ^ b.Bits); }
     friend Bitboard operator~(Bitboard a) { return Bitboard(~a.Bits); }
     Bitboard& operator|=(Bitboard b) { return *this = *this | b; }
-    Bitboard& operator&=(Bitboard b) { return *this = *this & b; }
     Bitboard& operator^=(Bitboard b) { return *this = *this ^ b; }
 
     /// The set moved by 1 to 63 squares, to higher or to lower numbers.
     friend Bitboard operator<<(Bitboard a, int squares) {
+        assert(squares >= 1 && squares <= 63);
         const Halves carried{0, a.Bits[0]};
         return Bitboard((a.Bits << squares) | (carried >> (64 - squares)));
     }
     friend Bitboard operator>>(Bitboard a, int squares) {
+        assert(squares >= 1 && squares <= 63);
         const Halves carried{a.Bits[1], 0};
         return Bitboard((a.Bits >> squares) | (carried << (64 - squares)));
     }
@@ -54,7 +55,7 @@ private:
     Halves Bits;
 };
 
-/// One row of bits below square 1, so that a field square's surroundings begin inside.
+/// Eight bits below square 1, so that the window of every field square lies inside the 128 bits.
 constexpr int SquareBit = 8;
 
 /// The squares for which the predicate holds.
@@ -72,7 +73,7 @@ constexpr Bitboard SquaresWhere(Predicate predicate) {
 /// A set for each square, NoSquare included.
 using BitboardTable = Table<Bitboard, NoSquare, LastSquare>;
 
-/// For each square those that stand in the relation to it; none for NoSquare.
+/// For each square `from` the squares `to` for which the relation holds; none for NoSquare.
 template <typename Relation>
 constexpr BitboardTable SquaresRelated(Relation isRelated) {
     BitboardTable sets{};
@@ -104,16 +105,17 @@ inline int LastIn(Bitboard set) {
     return bit - SquareBit;
 }
 
-// ---- Windows: the surroundings of one field square in one machine word ----
+// ---- Windows: the surroundings of one field square ----
 
-/// Bit n is the square at offset n - WindowReach from the centre: all squares up to two columns and
-/// two rows away, and more below.
+/// Bit n is the square at offset n - WindowReach from the centre. All squares up to two columns and
+/// two rows away are in it.
 using Window = std::uint64_t;
 
 constexpr int WindowReach = 2 * Down + 2 * Right;
 
 /// The part of a set around a field square.
 inline Window WindowOf(const Bitboard& set, int centre) {
+    assert(InField(centre));
     const unsigned first = static_cast<unsigned>(centre + SquareBit - WindowReach);
     const unsigned shift = first % 64;
     const Window fromHigh = set.High() << 1 << (63 - shift);

@@ -3,8 +3,8 @@
 #include "engine/MoveCode.h"
 #include "engine/Values.h"
 
-/// The candidate tables, the generator that fills them one candidate after another, and the sort.
-/// They are what a search begins with and where it leaves its result; inside, it has faster means.
+/// The candidate tables, the generator that fills a row of them, and the sort. The search begins
+/// with row 1 and leaves its result there; below the root it uses CandidateSet and Beam instead.
 namespace brastel {
 
 // ---- Tables: a row for each ply, 1 to 11; row 0 and entry 0 stay 0 ----
@@ -28,23 +28,23 @@ extern Table<Int16, 0, MaxPly> CandidateCount;
 /// order on which every tie-break depends. At MoveCount 1 and 2 these are the ring placements,
 /// unscored (NoScore), and none for piece counts other than 2, 4, 6, 8, 10 and 12.
 ///
-/// The computer does not ask the checks of people's actions. Its candidates are what these accept
-/// but for the following, which brastel-soak holds them to:
+/// The generator has its own form of the rules. Its candidates are what people may do, except that
+/// (brastel-soak checks this list):
 /// - A ring carrier in front of the goal may enter it, whatever stands there. People's pieces never
 ///   leave the field.
 /// - A ring carrier does not go two steps at once, straight, diagonally or like a knight, unless
 ///   that is a slide up or down to a friend. People's carriers do.
 /// - A ring carrier that waits outside does nothing. People may pass its ring on.
 /// - The ring goes to a piece that starts in the player's own half. People may choose any of pieces
-///   1 to 8, in a free setup any piece at all.
-/// - The squares for the ring are those of the start layout with as many pieces, even when pieces
-///   placed by hand stand elsewhere; then the ring can come to lie under any piece, or none.
-///   People's rings go to pieces of their own.
-/// Besides, a side without a candidate passes, for which people have only the hint.
+///   1 to 8, in a free setup any piece.
+/// - The squares for the ring are those of the start layout with the same number of pieces, even if
+///   the pieces were placed elsewhere by hand. Then the ring can come to lie under any piece, or
+///   none. People's rings go to pieces of their own.
+/// - A side without a candidate passes. People can do so only with the hint.
 void GenerateMoves(int ply);
 
-/// Orders a row by value, highest first, by selection: equal values can change places, and which of
-/// them stays in the beam follows from these exact swaps.
+/// Sorts a row by value, highest first. It is a selection sort, whose swaps change the order of
+/// equal values. The beam depends on this order, so the swaps must stay as they are.
 void SortCandidates(int ply);
 
 }  // namespace brastel

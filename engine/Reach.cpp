@@ -11,17 +11,17 @@ constexpr std::array<int, 8> NearOffsets{Up + Left, Up,          Up + Right, Lef
                                          Right,     Down + Left, Down,       Down + Right};
 constexpr std::array<int, 4> PushDirections{Up, Left, Right, Down};
 
-/// The places, two rows and columns away at most, whose columns and rows satisfy the predicate.
+/// The squares at most two columns and rows away for which the predicate holds.
 template <typename Predicate>
 constexpr Window WindowWhere(Predicate predicate) {
-    Window places = 0;
+    Window window = 0;
     for (int rows = -2; rows <= 2; ++rows) {
         for (int columns = -2; columns <= 2; ++columns) {
             const bool isCentre = rows == 0 && columns == 0;
-            if (!isCentre && predicate(columns, rows)) places |= AtOffset(rows * Down + columns);
+            if (!isCentre && predicate(columns, rows)) window |= AtOffset(rows * Down + columns);
         }
     }
-    return places;
+    return window;
 }
 
 constexpr int Squared(int number) { return number * number; }
@@ -46,8 +46,8 @@ constexpr bool AreGuardsIn(Window window, const PathGuards& guards) {
     return true;
 }
 
-/// By the pattern of free squares among the nearest: the places to which nothing bars the way. All
-/// squares that a step passes over are among the nearest.
+/// By the pattern of free squares among the nearest: the squares to which the way is free. A step
+/// of two passes over nearest squares only.
 constexpr auto OpenWindows = [] {
     std::array<Window, 256> open{};
     for (std::size_t pattern = 0; pattern < open.size(); ++pattern) {

@@ -2,7 +2,7 @@
 
 #include "engine/PositionTerms.h"
 
-/// Where pieces can go: the places of the candidate generator as sets and windows.
+/// Where pieces can go: the patterns of the candidate generator as bitboards and windows.
 namespace brastel {
 
 // ---- Around a field square ----
@@ -14,16 +14,16 @@ extern const Window HitWindow;
 /// Where a ring can be passed to.
 extern const Window PassWindow;
 
-/// Free squares that a piece without a ring reaches in one step or two, from the window of free
-/// squares around it.
+/// Squares that a piece without a ring reaches in one step or two, from the window of free squares
+/// around it.
 Window StepsInto(Window free);
 
-/// Where a slide up or down the column ends: before the first piece, if that is a friend and the
-/// slide at least so many steps long; otherwise NoSquare.
+/// Where a slide up or down the column ends: in front of the first piece, if that is a friend and
+/// the slide is at least so many steps long. Otherwise NoSquare.
 int SlideUp(const PositionTerms& terms, int square, int leastSteps);
 int SlideDown(const PositionTerms& terms, int square, int leastSteps);
 
-/// All squares that a piece on a square could ever reach.
+/// All squares that a piece on a square could reach in any position, but for the goal.
 extern const BitboardTable Reach;
 
 // ---- Hits ----
@@ -32,7 +32,7 @@ extern const BitboardTable Reach;
 using PushableTargets = std::array<Bitboard, 4>;
 void FindPushable(const PositionTerms& terms, PushableTargets& pushable);
 
-/// What the pieces of a set can hit, whether or not one may push back.
+/// What the pieces of a set can hit if no hit is refused as a push-back.
 Bitboard HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, Bitboard hitters);
 
 }  // namespace brastel
