@@ -31,7 +31,7 @@ void CandidateSetAndBeam(benchmark::State& state) {
         benchmark::DoNotOptimize(KeepBeam(set, static_cast<int>(state.range(0))));
     }
 }
-BENCHMARK(CandidateSetAndBeam)->Arg(4)->Arg(10)->Arg(MaxBeam);
+BENCHMARK(CandidateSetAndBeam)->Arg(4)->Arg(10)->Arg(BeamWidth);
 
 /// And at the deepest ply: the highest value alone.
 void BestReply(benchmark::State& state) {

@@ -6,13 +6,13 @@ namespace brastel {
 
 namespace {
 
-// ---- Ranks: value first, then place in the unsorted row, the earlier the better ----
+// ---- Ranks: value first, then the index in the unsorted row, a lower index first ----
 
-constexpr int PlaceCount = 1024;
+constexpr int IndexCount = 1024;
 
-constexpr int RankOf(int value, int place) { return (value + 1) * PlaceCount - 1 - place; }
-constexpr int PlaceOf(int rank) { return PlaceCount - 1 - (rank & (PlaceCount - 1)); }
-constexpr int WithPlace(int rank, int place) { return rank + PlaceOf(rank) - place; }
+constexpr int RankOf(int value, int index) { return (value + 1) * IndexCount - 1 - index; }
+constexpr int IndexOf(int rank) { return IndexCount - 1 - (rank & (IndexCount - 1)); }
+constexpr int WithIndex(int rank, int index) { return rank + IndexOf(rank) - index; }
 
 struct Ranked {
     int Rank;
@@ -21,25 +21,28 @@ struct Ranked {
 
 /// The candidates that are worth at least Threshold, in generation order.
 struct Shortlist {
-    Shortlist(int threshold, int exactPlaces) : Threshold(threshold), ExactPlaces(exactPlaces) {}
+    Shortlist(int threshold, int exactCount) : Threshold(threshold), ExactCount(exactCount) {}
 
     int Threshold;
-    /// So many places are counted exactly, because the sort moves who stands there; of the others
-    /// only the order matters.
-    int ExactPlaces;
+    /// The sort moves the candidates that stand at so many first indices, so these are exact. Of
+    /// the others only the order matters.
+    int ExactCount;
     std::array<Ranked, MaxCandidates> Entries;
     std::size_t Count = 0;
-    int NextPlace = 0;
+    int NextIndex = 0;
 };
 
 // ---- Listing ----
 
-/// More than a piece has candidates.
-constexpr int PlacesOfPiece = 64;
+/// The indices that one piece takes where they need not be exact: one for each distant candidate
+/// and each bit of a window.
+constexpr int IndicesPerPiece = 3 + 2 * WindowReach + 1;
+static_assert(MaxPieces * IndicesPerPiece <= IndexCount);
 
-void List(Shortlist& list, Candidate candidate, int place) {
+void List(Shortlist& list, Candidate candidate, int index) {
     if (candidate.Value < list.Threshold) return;
-    list.Entries[list.Count++] = {RankOf(candidate.Value, place), candidate};
+    assert(index < IndexCount && list.Count < list.Entries.size());
+    list.Entries[list.Count++] = {RankOf(candidate.Value, index), candidate};
 }
 
 Candidate CommonAt(const PieceCandidates& piece, int bit) {
@@ -49,31 +52,31 @@ Candidate CommonAt(const PieceCandidates& piece, int bit) {
 
 void ListPiece(Shortlist& list, const CandidateSet& set, const PieceCandidates& piece) {
     const Window all = piece.Common | piece.Scored;
-    const bool isExact = list.NextPlace < list.ExactPlaces;
-    const int firstPlace = list.NextPlace;
-    list.NextPlace += isExact ? piece.Distant + std::popcount(all) : PlacesOfPiece;
+    const bool isExact = list.NextIndex < list.ExactCount;
+    const int firstIndex = list.NextIndex;
+    list.NextIndex += isExact ? piece.Distant + std::popcount(all) : IndicesPerPiece;
     if (piece.Best < list.Threshold) return;
     for (int n = 0; n < piece.Distant; ++n) {
-        List(list, set.Listed[piece.FirstDistant + static_cast<std::size_t>(n)], firstPlace + n);
+        List(list, set.Listed[piece.FirstDistant + static_cast<std::size_t>(n)], firstIndex + n);
     }
-    const Candidate* judged = &set.Listed[piece.FirstScored];
+    const Candidate* scored = &set.Listed[piece.FirstScored];
     const Window worthy =
         AtLeast(piece.Added, list.Threshold - piece.Base, piece.Common) | piece.Scored;
     for (Window rest = worthy; rest != 0; rest &= rest - 1) {
         const int bit = std::countr_zero(rest);
         const int before = isExact ? std::popcount(all & ((rest & -rest) - 1)) : bit;
-        const bool isJudged = (piece.Scored >> bit & 1) != 0;
-        List(list, isJudged ? *judged++ : CommonAt(piece, bit),
-             firstPlace + piece.Distant + before);
+        const bool isScored = (piece.Scored >> bit & 1) != 0;
+        List(list, isScored ? *scored++ : CommonAt(piece, bit),
+             firstIndex + piece.Distant + before);
     }
 }
 
-/// Leaves out pieces that cannot have a candidate to list, unless their places count.
+/// Leaves out pieces that cannot have a candidate to list, unless their indices count.
 void ListPieces(Shortlist& list, CandidateSet& set) {
-    const Bitboard places = DestinationsWorth(set, list.Threshold);
+    const Bitboard destinations = DestinationsWorth(set, list.Threshold);
     for (std::size_t n = 0; n < set.PieceTotal; ++n) {
-        const bool mayList = IsGenerated(set, n) || MayReach(set, n, places);
-        if (!mayList && list.NextPlace >= list.ExactPlaces) continue;
+        const bool mayList = IsGenerated(set, n) || MayReach(set, n, destinations);
+        if (!mayList && list.NextIndex >= list.ExactCount) continue;
         GeneratePiece(set, n);
         ListPiece(list, set, set.Pieces[n]);
     }
@@ -81,8 +84,8 @@ void ListPieces(Shortlist& list, CandidateSet& set) {
 
 // ---- Selection ----
 
-/// The selection sort of SortCandidates, as far as the beam goes and on the shortlist alone: who
-/// stands where the selected one goes takes the place that the selected one leaves.
+/// The selection sort of SortCandidates for the beam alone. Where it swaps, the candidate at the
+/// front gets the index of the selected one.
 Beam SelectBeam(Shortlist& list, int width) {
     Beam beam;
     beam.Count = std::min(list.Count, static_cast<std::size_t>(width));
@@ -94,25 +97,25 @@ Beam SelectBeam(Shortlist& list, int width) {
             const int rank = list.Entries[i].Rank;
             selected = rank > highest ? i : selected;
             highest = std::max(rank, highest);
-            displaced = PlaceOf(rank) == static_cast<int>(n) ? i : displaced;
+            displaced = IndexOf(rank) == static_cast<int>(n) ? i : displaced;
         }
         beam.Candidates[n] = list.Entries[selected].Which;
         if (displaced != MaxCandidates) {
             int& rank = list.Entries[displaced].Rank;
-            rank = WithPlace(rank, PlaceOf(highest));
+            rank = WithIndex(rank, IndexOf(highest));
         }
         list.Entries[selected] = list.Entries[--list.Count];
     }
     return beam;
 }
 
-/// How far below the best value the beam probably reaches: to where candidates have as many
-/// destinations as it is wide.
-int LikelyDepth(const CandidateSet& set, int width) {
-    constexpr int deepest = 12;
-    int depth = 1;
-    while (depth < deepest && CountOf(DestinationsWorth(set, set.Best - depth)) < width) ++depth;
-    return depth;
+/// How far below the best value the beam probably reaches: pieces have at least `width`
+/// destinations of such values.
+int LikelyMargin(const CandidateSet& set, int width) {
+    constexpr int most = 12;
+    int margin = 1;
+    while (margin < most && CountOf(DestinationsWorth(set, set.Best - margin)) < width) ++margin;
+    return margin;
 }
 
 }  // namespace
@@ -126,12 +129,13 @@ Candidate FirstOfBest(const CandidateSet& set) {
 }
 
 Beam KeepBeam(CandidateSet& set, int width) {
-    constexpr int deepest = 24;
-    for (int depth = LikelyDepth(set, width);; depth *= 2) {
-        Shortlist list(depth <= deepest ? set.Best - depth : NoScore, width);
+    assert(width >= 1 && width <= BeamWidth);
+    constexpr int widest = 24;
+    for (int margin = LikelyMargin(set, width);; margin *= 2) {
+        Shortlist list(margin <= widest ? set.Best - margin : NoScore, width);
         ListPieces(list, set);
         const bool isEnough = list.Count >= static_cast<std::size_t>(width);
-        if (isEnough || depth > deepest) return SelectBeam(list, width);
+        if (isEnough || margin > widest) return SelectBeam(list, width);
     }
 }
 

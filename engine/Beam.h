@@ -2,23 +2,32 @@
 
 #include "engine/CandidateSet.h"
 
-/// Which of the surveyed candidates the search looks at: those that GenerateMoves and
-/// SortCandidates put first, found without listing or sorting the rest.
+/// Beam search: the search looks only at the first candidates of the sorted row. They are found in
+/// a CandidateSet without listing and sorting all.
 namespace brastel {
 
-constexpr int MaxBeam = 32;
+/// Candidates kept at the root, and the amount by which that falls to the next ply, itself falling
+/// by one from ply to ply.
+constexpr int BeamWidth = 32;
+constexpr int BeamShrink = 7;
+
+/// Candidates kept at a ply, 1 to 10: 32, 25, 19, 14, 10, 7, 5, 4, 4, 5.
+constexpr int BeamWidthAt(int ply) {
+    const int steps = ply - 1;
+    return BeamWidth - steps * BeamShrink + steps * (steps - 1) / 2;
+}
 
 /// The candidates that a ply keeps, in sorted order.
 struct Beam {
-    std::array<Candidate, MaxBeam> Candidates;
+    std::array<Candidate, BeamWidth> Candidates;
     std::size_t Count;
 };
 
-/// The candidate that the sort puts first. The best is surveyed, and there is a candidate.
+/// The candidate that SortCandidates puts first. There must be one, and GenerateBest must have run.
 Candidate FirstOfBest(const CandidateSet& set);
 
-/// The first `width` candidates, 1 to MaxBeam, of the sorted row, or all if there are less. Surveys
-/// what is missing; the best is surveyed.
+/// The first `width` candidates, 1 to BeamWidth, of the sorted row, or all if there are fewer.
+/// Generates what is missing. GenerateBest must have run.
 Beam KeepBeam(CandidateSet& set, int width);
 
 }  // namespace brastel

@@ -7,11 +7,6 @@ namespace brastel {
 /// The row of MoveList in which a search leaves its candidates.
 constexpr Int16 SearchPly = 1;
 
-/// Candidates kept at the root, and the amount by which that falls to the next ply, itself falling
-/// by one from ply to ply.
-constexpr int BeamWidth = 32;
-constexpr int BeamShrink = 7;
-
 /// Positions whose candidates the last search valued.
 extern std::uint64_t SearchedPositions;
 

@@ -11,19 +11,6 @@ namespace {
 
 int Depth = 2;
 
-/// Candidates that each ply keeps.
-constexpr auto Widths = [] {
-    Table<int, 0, MaxPly> widths;
-    int width = BeamWidth;
-    int shrink = BeamShrink;
-    for (int ply = 1; ply <= MaxPly; ++ply) {
-        widths[ply] = width;
-        width -= shrink--;
-    }
-    return widths;
-}();
-static_assert(BeamWidth <= MaxBeam);
-
 /// NoScore in units.
 constexpr int NoUnits = NoScore * UnitsPerPoint;
 
@@ -79,7 +66,7 @@ const Candidate* NextReply(Replies& replies) {
             if (First(replies) != replies.Remembered) return &First(replies);
             [[fallthrough]];
         case Replies::AtBeam:
-            replies.Kept = KeepBeam(replies.Candidates, Widths[replies.Ply]);
+            replies.Kept = KeepBeam(replies.Candidates, BeamWidthAt(replies.Ply));
             replies.Stage = Replies::InBeam;
             replies.Next = 1;
             [[fallthrough]];
@@ -157,7 +144,7 @@ double RoundedValue(int ply, int value, double gain, double least) {
     GenerateBest(set);
     if (set.Best == NoScore) return NoScore;
     if (IsWin(set.Best)) return static_cast<double>(value) / UnitsPerPoint;
-    const Beam beam = KeepBeam(set, Widths[ply]);
+    const Beam beam = KeepBeam(set, BeamWidthAt(ply));
     const PlySave saved;
     double best = NoScore;
     for (std::size_t n = 0; n < beam.Count && gain - best > least; ++n) {
@@ -203,7 +190,7 @@ double HopelessValueOf(const Candidate& candidate, const PlySave& saved) {
     CandidateSet set;
     BeginCandidates(set);
     GenerateBest(set);
-    const Beam beam = KeepBeam(set, Widths[2]);
+    const Beam beam = KeepBeam(set, BeamWidthAt(2));
     double answer = NoScore;
     int best = NoUnits;
     for (std::size_t n = 0; n < beam.Count && gain - answer >= NoScore; ++n) {
