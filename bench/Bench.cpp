@@ -4,8 +4,10 @@
 
 #include "bench/BenchPositions.h"
 #include "core/Position.h"
+#include "engine/Candidates.h"
 #include "engine/Search.h"
 #include "engine/Strengths.h"
+#include "engine/TreeSearch.h"
 #include "tools/ReadNumber.h"
 
 #include <algorithm>

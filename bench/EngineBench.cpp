@@ -1,7 +1,7 @@
 #include "bench/BenchPositions.h"
-#include "core/QuietMove.h"
 #include "engine/Beam.h"
 #include "engine/Candidates.h"
+#include "engine/PlySave.h"
 #include "engine/Search.h"
 
 #include <benchmark/benchmark.h>

@@ -26,38 +26,4 @@ void ApplyAction(const Action& action);
 /// Precondition: ActionFits.
 void ApplyMoveQuiet(const Action& action);
 
-/// All that quiet moves change once both rings are placed: saved before a ply's first candidate,
-/// restored after each. Copied part by part, which compilers turn into a few wide moves; a copy of
-/// the whole Position they make by a slow string instruction.
-class PlySave {
-public:
-    PlySave()
-        : Board(Pos.Board),
-          RedSquare(Pos.RedSquare),
-          BlueSquare(Pos.BlueSquare),
-          RingSquare(Pos.RingSquare),
-          LastHit(Pos.LastHit),
-          OutsideBalance(Pos.OutsideBalance),
-          SideToMove(Pos.SideToMove) {}
-
-    void Restore() const {
-        Pos.Board = Board;
-        Pos.RedSquare = RedSquare;
-        Pos.BlueSquare = BlueSquare;
-        Pos.RingSquare = RingSquare;
-        Pos.LastHit = LastHit;
-        Pos.OutsideBalance = OutsideBalance;
-        Pos.SideToMove = SideToMove;
-    }
-
-private:
-    BoardCells Board;
-    PieceSquares RedSquare;
-    PieceSquares BlueSquare;
-    std::array<Int16, RingCount> RingSquare;
-    std::array<Int16, 2> LastHit;
-    Int16 OutsideBalance;
-    Int16 SideToMove;
-};
-
 }  // namespace brastel

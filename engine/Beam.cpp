@@ -132,7 +132,8 @@ Beam KeepBeam(CandidateSet& set, int width) {
     assert(width >= 1 && width <= BeamWidth);
     constexpr int widest = 24;
     for (int margin = LikelyMargin(set, width);; margin *= 2) {
-        Shortlist list(margin <= widest ? set.Best - margin : NoScore, width);
+        const int threshold = margin <= widest ? set.Best - margin : NoScore;
+        Shortlist list(std::max(threshold, NoScore), width);
         ListPieces(list, set);
         const bool isEnough = list.Count >= static_cast<std::size_t>(width);
         if (isEnough || margin > widest) return SelectBeam(list, width);

@@ -84,15 +84,14 @@ constexpr WindowCounters ForwardGains(int side) {
 constexpr WindowCounters RedGains = ForwardGains(Red);
 constexpr WindowCounters BlueGains = ForwardGains(Blue);
 
-void AddCarrierTerms(const PositionTerms& terms, PieceCandidates& piece, Window destinations) {
-    if (terms.MustAnswer) return;
+/// Returns the squares where the counters are too small for the sum.
+Window AddCarrierTerms(const PositionTerms& terms, PieceCandidates& piece) {
+    if (terms.MustAnswer) return 0;
     const Bitboard besideFriends =
         terms.Own << 1 | terms.Own >> 1 | terms.Own << 8 | terms.Own >> 8;
-    [[maybe_unused]] Window overflow =
-        AddTo(piece.Added, WindowOf(besideFriends, piece.Square), Weight::RingBesideFriend);
     piece.Base -= 2 * Weight::RowForward;
-    overflow |= Add(piece.Added, terms.Side == Red ? RedGains : BlueGains);
-    assert((overflow & destinations) == 0);
+    return AddTo(piece.Added, WindowOf(besideFriends, piece.Square), Weight::RingBesideFriend) |
+           Add(piece.Added, terms.Side == Red ? RedGains : BlueGains);
 }
 
 void AddCarrierSlide(CandidateSet& set, PieceCandidates& piece, int destination) {
@@ -106,7 +105,8 @@ void GenerateCarrier(CandidateSet& set, PieceCandidates& piece) {
     const Window free = WindowOf(terms.Free, square);
     const Window near = (free & NearWindow) | (WindowOf(terms.Receivers, square) & PassWindow);
     const Window scored = IsFieldCorner(square) ? near : near & WindowOf(ScoredArrivals, square);
-    AddCarrierTerms(terms, piece, near & ~scored);
+    [[maybe_unused]] const Window overflow = AddCarrierTerms(terms, piece);
+    assert((overflow & near & ~scored) == 0);
     AddCommon(piece, near & ~scored);
     AddScored(set, piece, scored);
     piece.FirstDistant = set.ListedCount;

@@ -1,8 +1,8 @@
 #include "engine/Evaluation.h"
 
-#include "core/QuietMove.h"
 #include "core/WinTest.h"
 #include "engine/EvaluationTerms.h"
+#include "engine/PlySave.h"
 
 namespace brastel {
 

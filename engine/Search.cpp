@@ -1,11 +1,10 @@
 #include "engine/Search.h"
 
-#include "core/Position.h"
-#include "core/QuietMove.h"
 #include "engine/Beam.h"
 #include "engine/Candidates.h"
 #include "engine/Random.h"
-#include "engine/SearchMemory.h"
+#include "engine/RoundedValues.h"
+#include "engine/TranspositionTable.h"
 #include "engine/TreeSearch.h"
 
 #include <algorithm>
@@ -13,37 +12,34 @@
 
 namespace brastel {
 
-std::uint64_t SearchedPositions = 0;
-
 namespace {
 
 struct RootCandidate {
     Candidate Which;
     /// Its entry in row 1.
     int Entry;
-    /// Its value, or a bound from above if it loses, in units.
+    /// Its value in units, or an upper bound if it is not the best.
     int Value;
 };
 
 using RootRow = std::span<RootCandidate>;
 
-/// Before both rings are placed no candidate has a value, and all plies list the same placements,
-/// so only the number of plies counts.
+/// Before both rings are placed no candidate has a value, and all plies have the same placements.
+/// So only the number of plies counts.
 void ValuePlacements(int depth) {
     double value = NoScore;
     for (int ply = depth - 1; ply >= SearchPly; --ply) value = NoScore / Discount - value;
     for (int n = 1; n <= CandidateCount[SearchPly]; ++n) MoveScores[SearchPly][n] = value;
 }
 
-/// Finds the highest value at the root, and leaves a candidate that has it in front.
+/// One iteration: finds the highest value at the root, and puts a candidate that has it in front.
 int SearchRow(RootRow row) {
     const PlySave saved;
     int best = -Infinity;
     auto winner = row.begin();
     for (auto candidate = row.begin(); candidate != row.end(); ++candidate) {
-        candidate->Value = candidate == row.begin()
-                               ? ValueOf(SearchPly, candidate->Which, -Infinity, Infinity, saved)
-                               : ValueOfLater(SearchPly, candidate->Which, best, Infinity, saved);
+        const auto search = candidate == row.begin() ? ValueOf : NullWindowValueOf;
+        candidate->Value = search(SearchPly, candidate->Which, best, Infinity, saved);
         if (candidate->Value > best) winner = candidate;
         best = std::max(best, candidate->Value);
     }
@@ -51,10 +47,10 @@ int SearchRow(RootRow row) {
     return best;
 }
 
-/// Gives row 1 its final values; `best` is the value of the candidate in front, and the highest.
-/// Values that are equal can still differ in their last digit, which decides what is tied. Losers
-/// are left with bounds below the best, each below the one before: with the true values, too, the
-/// first mostly stays ahead of the other losers, and a coin is tossed only for who gets ahead.
+/// Gives row 1 its final values. `best` is the highest value, and the candidate in front has it.
+/// Candidates of this value get their rounded values, which decide the ties. The others get lower
+/// ones that fall from entry to entry, so that the selection draws few random numbers for them: no
+/// probability depends on this, but the games of a given seed do.
 void ValueRow(RootRow row, int best) {
     const PlySave saved;
     const auto isBest = [&](const RootCandidate& candidate) {
@@ -72,7 +68,7 @@ void ValueRow(RootRow row, int best) {
     }
     if (highest >= NoScore) return;
     for (const RootCandidate& candidate : row) {
-        MoveScores[SearchPly][candidate.Entry] = HopelessValueOf(candidate.Which, saved);
+        MoveScores[SearchPly][candidate.Entry] = LostValueOf(candidate.Which, saved);
     }
 }
 
@@ -80,32 +76,30 @@ void SearchRoot(Int16 depth) {
     SortCandidates(SearchPly);
     const int count = std::min<int>(CandidateCount[SearchPly], BeamWidth);
     CandidateCount[SearchPly] = ToInt16(count);
-    // A winning candidate is sorted first, and all keep their immediate values.
+    // A winning candidate stands first, and all keep their immediate values.
     if (count == 0 || IsWin(MoveScores[SearchPly][1])) return;
     if (!BothRingsPlaced()) return ValuePlacements(depth);
     std::array<RootCandidate, BeamWidth> candidates;
     for (int n = 1; n <= count; ++n) {
-        const auto [origin, destination] = DecodeMove(MoveList[SearchPly][n]);
+        const Action action = DecodeMove(MoveList[SearchPly][n]);
         const int value = static_cast<int>(MoveScores[SearchPly][n]);
-        candidates[static_cast<std::size_t>(n - 1)] = {CandidateOf({origin, destination}, value), n,
-                                                       0};
+        candidates[static_cast<std::size_t>(n - 1)] = {CandidateOf(action, value), n, 0};
     }
     const RootRow row(candidates.data(), static_cast<std::size_t>(count));
-    ForgetPositions();
+    ClearTable();
     int best = 0;
-    // The deepest ply being the same side's each time, shallower searches foresee it best.
-    for (int shallower = 2 + depth % 2; shallower <= depth; shallower += 2) {
-        BeginTree(shallower);
-        best = SearchRow(row);
-    }
+    // Iterative deepening by two plies: depths that end with the same side's move have more best
+    // replies in common.
+    for (TreeDepth = 2 + depth % 2; TreeDepth <= depth; TreeDepth += 2) best = SearchRow(row);
+    TreeDepth = depth;
     ValueRow(row, best);
 }
 
 bool CanBePlayed(MoveCode code) { return ActionFits(DecodeMove(code)); }
 
-/// The best of row 1, or the best that is allowed; 0 where there is none. Each candidate that
-/// reaches the best so far tosses a coin, the first one to do so included, so the last of k equals
-/// is taken with probability 1/2, the one before with 1/4.
+/// The best of row 1, or the best that is allowed; 0 if there is none. A coin is tossed for every
+/// candidate that reaches the best value so far, also for the first. So the last of k equal ones is
+/// taken with probability 1/2, the one before with 1/4, and so on.
 Int16 SelectFromRoot(bool (*isAllowed)(MoveCode) = nullptr) {
     double best = -Infinity;
     int chosen = 0;

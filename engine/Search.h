@@ -1,25 +1,23 @@
 #pragma once
 
-#include "engine/MoveCode.h"
+#include "core/Action.h"
 
+/// Beam search with iterative deepening: the search at the root, and the choice of a move.
 namespace brastel {
 
 /// The row of MoveList in which a search leaves its candidates.
 constexpr Int16 SearchPly = 1;
 
-/// Positions whose candidates the last search valued.
-extern std::uint64_t SearchedPositions;
-
 /// Chooses a move for the side to move by looking `depth` plies ahead, 1 to MaxPly. Returns its
-/// index in row 1 of MoveList, or 0 when there is no candidate. In row 1 the candidates then stand
-/// as they were searched, the best with their exact value, the others with a bound below it. Exact
-/// ties are broken by RandomBelow; how many numbers are drawn before the first of the best depends
-/// on the bounds. The position is the same after the call.
+/// index in row 1 of MoveList, or 0 when there is no candidate. Row 1 then holds the candidates
+/// that were searched: the best with their exact value, the others with an upper bound below it.
+/// Exact ties are broken by RandomBelow; how many numbers are drawn before the first of the best
+/// depends on the bounds. The position is the same after the call.
 Int16 ChooseCandidate(Int16 depth);
 
-/// Chooses as ChooseCandidate does, by the values that stand in row 1, but only among the
-/// candidates that can be played. 0 when there is none. A goal entry onto an opponent who waits in
-/// the goal cannot be played: it counts as a win, and yet would push the opponent off the board.
+/// Chooses as ChooseCandidate does, by the values in row 1, but only among the candidates that can
+/// be played; 0 when there are none. A goal entry cannot be played if an opponent waits in the
+/// goal: it counts as a win, but would push the opponent off the board.
 Int16 ChoosePlayable();
 
 /// Rule 8, no movable piece: true if the side to move has no candidate that can be played. Lists

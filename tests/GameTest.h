@@ -2,6 +2,7 @@
 
 #include "engine/Random.h"
 #include "engine/Search.h"
+#include "engine/TreeSearch.h"
 #include "play/Hint.h"
 #include "testing/RandomPlay.h"
 #include "testing/ShownGame.h"

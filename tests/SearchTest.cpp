@@ -1,6 +1,6 @@
 #include "engine/Random.h"
 #include "engine/Search.h"
-#include "engine/SearchMemory.h"
+#include "engine/TranspositionTable.h"
 #include "tests/PositionSource.h"
 
 #include <gtest/gtest.h>
@@ -191,11 +191,11 @@ TEST(SearchTest, TellsRememberedPositionsApart) {
         numbers.insert(numbers.end(), {&Pos.RedSquare[i], &Pos.BlueSquare[i]});
     }
     constexpr int mark = 7;
-    const auto isKnown = [](int ply) { return RecallPosition(ply).Depth == mark; };
+    const auto isKnown = [](int ply) { return ProbeTable(ply).Depth == mark; };
     for (Int16* const number : numbers) {
         for (int bit = 1; bit <= LastSquare; bit *= 2) {
-            ForgetPositions();
-            RecallPosition(3).Depth = mark;
+            ClearTable();
+            ProbeTable(3).Depth = mark;
             EXPECT_TRUE(isKnown(3));
             EXPECT_FALSE(isKnown(4));
             const Int16 value = std::exchange(*number, ToInt16(*number ^ bit));

@@ -1,13 +1,14 @@
-#include "engine/SearchMemory.h"
+#include "engine/TranspositionTable.h"
 
 namespace brastel {
 
 namespace {
 
-/// 4 MB of entries. Four times as many save few positions, and take longer to reach than they save.
+/// 4 MB of entries. A table four times as large saves few positions, and its cache misses cost more
+/// than it saves.
 constexpr int EntryBits = 16;
 
-std::array<MemoryEntry, std::size_t{1} << EntryBits> Entries;
+std::array<TableEntry, std::size_t{1} << EntryBits> Entries;
 std::uint32_t CurrentSearch = 0;
 
 /// Four numbers of 16 bits.
@@ -25,7 +26,7 @@ std::uint64_t Packed(const PieceSquares& squares, int first, int count) {
     return word;
 }
 
-/// The ply is the last number of all.
+/// The ply stands in the lowest bits of the last word.
 PositionKey KeyOf(int ply) {
     const auto balance = static_cast<std::uint16_t>(Pos.OutsideBalance);
     const int rings = Pos.RingSquare[0] << 8 | Pos.RingSquare[1];
@@ -44,35 +45,36 @@ std::size_t SlotOf(const PositionKey& key) {
     return hash * multipliers[0] >> (64 - EntryBits);
 }
 
-bool IsCurrent(const MemoryEntry& entry) { return entry.Search == CurrentSearch; }
+bool IsCurrent(const TableEntry& entry) { return entry.Search == CurrentSearch; }
 
-int PlyOf(const MemoryEntry& entry) { return static_cast<int>(entry.Key.Words[3] & 0xFFFF); }
+int PlyOf(const TableEntry& entry) { return static_cast<int>(entry.Key.Words[3] & 0xFFFF); }
 
-/// Two neighbours share what falls to either of them. An old entry gives way first, then the one
-/// deeper in the tree, which has less below it.
-MemoryEntry& LessUseful(MemoryEntry& a, MemoryEntry& b) {
+/// Buckets have two entries. An old entry is replaced first, then the one deeper in the tree, which
+/// saves less.
+TableEntry& LessUseful(TableEntry& a, TableEntry& b) {
     if (!IsCurrent(a)) return a;
     return IsCurrent(b) && PlyOf(a) >= PlyOf(b) ? a : b;
 }
 
 }  // namespace
 
-void ForgetPositions() {
+void ClearTable() {
     if (++CurrentSearch != 0) return;
-    // After four billion searches the first ones would look current again.
+    // The number has overflowed, so entries of the first searches would look current.
     Entries.fill({});
     CurrentSearch = 1;
 }
 
-MemoryEntry& RecallPosition(int ply) {
+TableEntry& ProbeTable(int ply) {
     const PositionKey key = KeyOf(ply);
     const std::size_t slot = SlotOf(key);
-    MemoryEntry& home = Entries[slot];
-    MemoryEntry& neighbour = Entries[slot ^ 1];
+    TableEntry& home = Entries[slot];
+    TableEntry& neighbour = Entries[slot ^ 1];
     if (IsCurrent(home) && home.Key == key) return home;
     if (IsCurrent(neighbour) && neighbour.Key == key) return neighbour;
-    MemoryEntry& entry = LessUseful(home, neighbour);
-    entry = {.Key = key, .Search = CurrentSearch, .Depth = 0, .Lower = 0, .Upper = 0, .Reply = {}};
+    TableEntry& entry = LessUseful(home, neighbour);
+    entry = {
+        .Key = key, .Search = CurrentSearch, .Depth = 0, .Lower = 0, .Upper = 0, .HashMove = {}};
     return entry;
 }
 
