@@ -10,9 +10,8 @@ constexpr Int16 SearchPly = 1;
 
 /// Chooses a move for the side to move by looking `depth` plies ahead, 1 to MaxPly. Returns its
 /// index in row 1 of MoveList, or 0 when there is no candidate. Row 1 then holds the candidates
-/// that were searched: the best with their exact value, the others with an upper bound below it.
-/// Exact ties are broken by RandomBelow; how many numbers are drawn before the first of the best
-/// depends on the bounds. The position is the same after the call.
+/// that were searched: the best with their exact value, the others with some value below it. Exact
+/// ties are broken by RandomBelow. The position is the same after the call.
 Int16 ChooseCandidate(Int16 depth);
 
 /// Chooses as ChooseCandidate does, by the values in row 1, but only among the candidates that can
