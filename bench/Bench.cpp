@@ -6,7 +6,6 @@
 #include "core/Position.h"
 #include "engine/Candidates.h"
 #include "engine/Search.h"
-#include "engine/Strengths.h"
 #include "engine/TreeSearch.h"
 #include "tools/ReadNumber.h"
 
@@ -171,7 +170,7 @@ const char* ReadArguments(std::span<char*> texts, Options& options) {
 
 void CompleteOptions(Options& options) {
     if (options.Levels.empty()) {
-        for (const Strength& strength : Strengths) options.Levels.push_back(strength.Depth);
+        for (Int16 level = 1; level <= MaxPly; ++level) options.Levels.push_back(level);
     }
     if (options.Positions.empty()) {
         for (int n = 1; n <= BenchPositionCount; ++n) options.Positions.push_back(n);

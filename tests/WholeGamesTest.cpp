@@ -27,8 +27,7 @@ protected:
     void Begin() {
         const int level = GetParam() % (TopLevel + 1);
         Open((GetParam() + 3) % LayoutCount);
-        Do(level == TwoPlayerLevel ? "mnu_TwoPlayer"
-                                   : Strengths[static_cast<std::size_t>(level - 1)].Item.data());
+        Do("mnu_" + (level == TwoPlayerLevel ? "TwoPlayer" : StrengthName(level)));
         SeedRandom(7);
         if (Pos.RedCount > 0) return Do(level == TwoPlayerLevel ? "!68 !45" : "!68");
         // Eleven Red and nine Blue pieces, placed by hand.

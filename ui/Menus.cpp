@@ -90,9 +90,9 @@ void AddItems(QMenu& menu, QMainWindow& window, std::span<const MenuItem> items)
     }
 }
 
-void AddLevel(QMenu& levels, std::string_view name, std::string_view caption, Int16 level) {
-    QAction* action = levels.addAction(QString::fromUtf8(caption.data()));
-    action->setObjectName(QString::fromUtf8(name.data()));
+void AddLevel(QMenu& levels, const QString& name, const QString& caption, Int16 level) {
+    QAction* action = levels.addAction(caption);
+    action->setObjectName(name);
     action->setData(level);
     QObject::connect(action, &QAction::triggered, &levels, [level, &levels] {
         SetLevel(level);
@@ -100,11 +100,16 @@ void AddLevel(QMenu& levels, std::string_view name, std::string_view caption, In
     });
 }
 
+/// The index of the access key in the name of each strength.
+constexpr std::array<int, MaxPly> AccessKeys{0, 0, 0, 0, 2, 2, 0, 0, 4, 2, 1};
+
 void AddLevels(QMenu& levels) {
     AddLevel(levels, "mnu_TwoPlayer", "&Two Player", TwoPlayerLevel);
     AddSeparator(levels, "mnu_TwoSep");
-    for (const Strength& strength : Strengths) {
-        AddLevel(levels, strength.Item, strength.Caption, strength.Depth);
+    for (int level = 1; level <= MaxPly; ++level) {
+        const QString name = QString::fromStdString(StrengthName(level));
+        const int key = AccessKeys[static_cast<std::size_t>(level - 1)];
+        AddLevel(levels, "mnu_" + name, QString(name).insert(key, '&'), ToInt16(level));
     }
 }
 

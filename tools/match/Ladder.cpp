@@ -1,8 +1,8 @@
 #include "tools/match/Ladder.h"
 
+#include "engine/Strengths.h"
 #include "tools/ReadNumber.h"
 #include "tools/match/MatchTable.h"
-#include "tools/match/StrengthName.h"
 #include "tools/match/TableText.h"
 
 #include <cstdlib>

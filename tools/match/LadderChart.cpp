@@ -1,6 +1,6 @@
 #include "tools/match/LadderChart.h"
 
-#include "tools/match/StrengthName.h"
+#include "engine/Strengths.h"
 #include "tools/match/TableText.h"
 
 #include <algorithm>

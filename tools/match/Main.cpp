@@ -1,5 +1,6 @@
 /// The program brastel-match: plays strengths of the computer player against each other.
 
+#include "engine/Strengths.h"
 #include "files/TextFile.h"
 #include "tools/ExitStatus.h"
 #include "tools/Interrupt.h"
@@ -8,7 +9,6 @@
 #include "tools/match/MatchTable.h"
 #include "tools/match/Options.h"
 #include "tools/match/SavedGames.h"
-#include "tools/match/StrengthName.h"
 
 #include <algorithm>
 #include <array>

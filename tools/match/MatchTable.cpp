@@ -1,6 +1,6 @@
 #include "tools/match/MatchTable.h"
 
-#include "tools/match/StrengthName.h"
+#include "engine/Strengths.h"
 #include "tools/match/TableText.h"
 
 #include <cinttypes>

@@ -1,9 +1,9 @@
 #include "tools/match/Options.h"
 
 #include "core/StartPosition.h"
+#include "engine/Strengths.h"
 #include "tools/CommandLine.h"
 #include "tools/ReadNumber.h"
-#include "tools/match/StrengthName.h"
 
 #include <array>
 #include <cctype>
@@ -43,9 +43,9 @@ std::string Lower(std::string text) {
 
 /// Turns the name of a strength into its number.
 std::string ReadStrength(std::string& text) {
-    for (const Strength& strength : Strengths) {
-        const std::string number = std::to_string(strength.Depth);
-        if (text != number && Lower(text) != Lower(StrengthName(strength.Depth))) continue;
+    for (int level = 1; level <= MaxPly; ++level) {
+        const std::string number = std::to_string(level);
+        if (text != number && Lower(text) != Lower(StrengthName(level))) continue;
         text = number;
         return {};
     }

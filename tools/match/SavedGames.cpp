@@ -1,8 +1,8 @@
 #include "tools/match/SavedGames.h"
 
+#include "engine/Strengths.h"
 #include "files/FileView.h"
 #include "files/GameFile.h"
-#include "tools/match/StrengthName.h"
 
 #include <cerrno>
 #include <cstdio>
