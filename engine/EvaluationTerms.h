@@ -50,8 +50,8 @@ struct SquareRange {
 
 /// What differs between the sides to move.
 struct SideTerms {
-    /// Squares of an enemy carrier that must be answered, and the origins from which a move counts
-    /// as an answer.
+    /// Squares of an enemy carrier that is so far advanced that an answer is worth more, and the
+    /// origins from which a move counts as an answer.
     SquareRange AdvancedCarrier;
     SquareRange AnswerOrigins;
     /// Squares of an enemy carrier around which the enemy can crowd, and the four field rows in

@@ -4,8 +4,8 @@
 
 namespace brastel {
 
-/// Destination * 200 + origin in one number. A ring placement is the bare square; 0 is no candidate
-/// and, played, the null move.
+/// An action as one number: destination * 200 + origin. A ring placement is the square alone. 0 is
+/// no candidate, and means the null move if it is played.
 using MoveCode = Int16;
 
 constexpr int MoveCodeBase = 200;

@@ -6,7 +6,7 @@
 
 namespace brastel {
 
-/// Starts the game's one random generator from a seed; the same seed gives the same numbers on
+/// Starts the game's only random generator from a seed. The same seed gives the same numbers on
 /// every platform.
 void SeedRandom(std::uint32_t seed);
 

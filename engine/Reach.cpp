@@ -118,7 +118,7 @@ Bitboard HitsFrom(const PositionTerms& terms, const PushableTargets& pushable, B
     Bitboard hits{};
     for (std::size_t n = 0; n < PushDirections.size(); ++n) {
         const Bitboard near = Moved(hitters, PushDirections[n]);
-        // From two squares away only past an empty square, and none that carries a ring.
+        // From two squares away the square between must be empty, and the target without a ring.
         const Bitboard far = Moved(near & terms.Free, PushDirections[n]) & ~terms.Rings;
         hits |= (near | far) & pushable[n];
     }
