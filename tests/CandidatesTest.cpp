@@ -53,8 +53,8 @@ void CompareWithSortedRow() {
     CompareHighestValue(row.empty() ? NoScore : row.front().Value);
 }
 
-/// The set must have the candidates of the generator, and the beam the first of the sorted row, also
-/// among equal values, whose order the sort changes.
+/// The set must have the candidates of the generator, and the beam the first of the sorted row,
+/// also among equal values, whose order the sort changes.
 TEST(CandidatesTest, TheSetAgreesWithTheSortedRow) {
     Dice dice(1);
     for (int n = 0; n < 4000 && !testing::Test::HasFailure(); ++n) {
