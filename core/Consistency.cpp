@@ -8,8 +8,8 @@ namespace brastel {
 
 namespace {
 
-/// Every waiting piece counts one, and each entry of a game can leave the counter off by one more:
-/// a goal entry puts a piece outside without a push.
+/// Each piece outside counts one. Each entry of a game can add one more: a goal entry puts a piece
+/// outside without a push.
 constexpr int MaxOutsideBalance = 300;
 
 /// Marks the squares of a side's pieces; false if one is off the board, shared, or its cell says
@@ -38,7 +38,7 @@ bool PlacedInRange() {
 }  // namespace
 
 std::string FirstInconsistency() {
-    // First, since the squares are read up to these counts.
+    // This comes first: the squares are read up to these counts.
     if (!PlacedInRange()) return "more pieces placed than a side has";
     BoardCells expected;
     if (!PiecesFitBoard(Red, expected) || !PiecesFitBoard(Blue, expected)) {

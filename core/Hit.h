@@ -9,8 +9,8 @@ namespace brastel {
 
 enum class HitVerdict { Accepted, Refused, PushBack };
 
-/// Whether the hitter may hit the target now. PushBack when the target made the last hit, on this
-/// very hitter: the refusal that the player is told about, whatever else speaks against the hit.
+/// Whether the hitter may hit the target now. PushBack if the target made the last hit, on this
+/// hitter: the player is told so, even if another rule forbids the hit, too.
 /// Pieces that do not exist or are on the same side are refused.
 HitVerdict CheckHit(Piece hitter, Piece target);
 

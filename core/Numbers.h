@@ -19,8 +19,8 @@ constexpr Int16 ToInt16(int value) {
     return static_cast<Int16>(value);
 }
 
-/// An array whose first index is First and whose last is Last. An index outside them is a fault of
-/// the caller; builds with library assertions stop there.
+/// An array whose first index is First and whose last is Last. An index outside them is an error of
+/// the caller. Builds with library assertions stop there.
 template <typename T, int First, int Last>
 class Table {
 public:

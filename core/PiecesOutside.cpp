@@ -50,8 +50,8 @@ bool IsGuardedAgainst(int side, const ReturnCell& cell) {
                                [side](int guard) { return Pos.Board[guard] == -side; });
 }
 
-/// Moves the piece in from its cell. Its board cell follows after the whole pass, so that pieces of
-/// one pass do not stand in one another's way.
+/// Moves the piece in from its cell. Its new board cell is written after the whole pass, so that
+/// pieces of one pass do not block each other.
 void ServeCell(const ReturnCell& cell, Returns& returns) {
     const Int16 side = Pos.Board[cell.Cell];
     if (side == Empty || Pos.Board[cell.Return] != Empty) return;

@@ -10,13 +10,13 @@ namespace brastel {
 /// Where a piece on this return cell comes back; NoSquare for any other square.
 int ReturnSquareOf(int cell);
 
-/// Brings back every piece that may return, all judged on the field as it stood before.
+/// Brings back every piece that may return. The field before the call decides for all of them.
 void ReturnOutsidePieces();
 
 /// The same for only those cells whose return or guard square is one of the given ones: an action
-/// can let a piece return only where it changed a square. Both squares are served in one pass,
-/// since a piece let in near the first must not keep out one near the second. Numbers that are no
-/// field square have no such cells.
+/// can let a piece return only where it changed a square. Both squares are served in one pass:
+/// a piece that comes back near the first must not keep out one near the second. Numbers that are
+/// no field square are ignored.
 void ReturnOutsideNear(int square, int otherSquare = NoSquare);
 
 }  // namespace brastel

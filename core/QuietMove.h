@@ -21,9 +21,9 @@ bool IsAccepted(const Action& action);
 void ApplyAction(const Action& action);
 
 /// Applies the action, brings back pieces that it lets in, and passes the turn. The search calls
-/// this for every candidate, so only cells near changed squares are looked at: a piece placed
-/// outside by hand that could come back from the start on is not let in elsewhere. MoveCount stays.
-/// Precondition: ActionFits.
+/// this for every candidate, so only cells near changed squares are checked: a piece that was
+/// placed outside by hand and could come back at once stays there until a square near it changes.
+/// MoveCount stays. Precondition: ActionFits.
 void ApplyMoveQuiet(const Action& action);
 
 }  // namespace brastel

@@ -16,7 +16,7 @@ constexpr int RowCount = 14;
 constexpr int ColumnCount = 8;
 constexpr int FirstSquare = 1;
 constexpr int LastSquare = RowCount * ColumnCount;
-/// Where a piece stands that the board has no place for.
+/// The square of a piece that has no place on the board.
 constexpr int NoSquare = 0;
 
 constexpr int Left = -1;
@@ -26,7 +26,7 @@ constexpr int Down = ColumnCount;
 
 constexpr bool IsOnBoard(int square) { return square >= FirstSquare && square <= LastSquare; }
 
-/// Row and column of a board square; of another number something that is no row or column.
+/// Row and column of a board square. For other numbers the result can be out of range.
 constexpr int Row(int square) { return (square - 1) / ColumnCount; }
 constexpr int Column(int square) { return (square - 1) % ColumnCount; }
 

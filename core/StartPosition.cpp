@@ -15,7 +15,7 @@ struct Layout {
     std::array<Int16, MaxPieces> BlueSquares;
 };
 
-/// In piece index order, which decides every search over pieces.
+/// In piece index order, in which all searches over pieces go.
 constexpr std::array<Layout, LayoutCount> Layouts{{
     {2, {68, 69}, {44, 45}},
     {4, {67, 68, 69, 70}, {43, 44, 45, 46}},

@@ -25,7 +25,7 @@ struct StartSquares {
 };
 StartSquares LoadedStart;
 
-/// Leaves out what the pieces' places do not depend on: ring squares and entries beyond the counts.
+/// Without ring squares and entries beyond the counts: the pieces' places do not depend on them.
 StartSquares CurrentStart() {
     StartSquares start{StartCount(Red), StartCount(Blue), {}, {}};
     for (int i = 1; i <= start.RedCount; ++i) start.RedSquares[i] = RedStart[i];

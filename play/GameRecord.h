@@ -13,7 +13,8 @@ constexpr int MaxEntries = 200;
 /// Entry 0 is not used.
 using RecordColumn = Table<Int16, 0, MaxEntries>;
 
-/// The game being played: entries 1 to MoveCount - 1. What lies beyond is left over.
+/// The game being played: entries 1 to MoveCount - 1. Later entries are left over from before a
+/// step back.
 extern RecordColumn PlayedFrom;
 extern RecordColumn PlayedTo;
 

@@ -46,8 +46,8 @@ void ShowStatus(std::string_view text);
 /// seed. The pieces are not shown yet, the record and its buttons stay.
 void ResetGame();
 
-/// Announces the winner, if there is one, and ends the game. A game that has ended can go on by
-/// hand, and every further action announces it again while the carrier stands.
+/// Announces the winner, if there is one, and ends the game. People can play on after the
+/// end. Each further action announces the winner again while its carrier stands there.
 void CheckWin();
 
 }  // namespace brastel

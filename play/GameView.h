@@ -35,8 +35,8 @@ public:
     virtual void ShowBusy(bool /*busy*/) {}
     /// Lets pending window events be handled, once.
     virtual void HandleEvents() {}
-    /// Seconds on a clock that cannot be set back. A view without a person before it may let it
-    /// leap, so that no pause takes time.
+    /// Seconds on a clock that is never set back. In a view that nobody looks at it may jump ahead,
+    /// so that no pause takes time.
     virtual double Now() const;
     /// True once the window has been closed: the program is about to end, so no move is begun.
     virtual bool IsClosing() const { return false; }

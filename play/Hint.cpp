@@ -9,7 +9,7 @@ namespace brastel {
 
 void Hint() {
     if (IsThinking) return;
-    // The pieces standing so far belong to an unfinished setup: there is nobody to play for yet.
+    // The setup is not finished, so neither side can play yet.
     if (InFreeSetup()) return ShowStatus(BlankText);
     if (!PlayChosenMove(Level == TwoPlayerLevel ? HintDepth : Level)) return;
     CheckWin();

@@ -17,7 +17,7 @@ namespace brastel {
 
 namespace {
 
-/// Whether the action under way left the line of a loaded game, should it be accepted.
+/// True if the current action leaves the loaded game when it is accepted.
 bool ForwardWasVisible = false;
 
 void BeginAction() {
@@ -25,7 +25,7 @@ void BeginAction() {
     ShowForward(false);
 }
 
-/// After a refusal, and at the end of a free setup, the button is as it was.
+/// Shows the button again after a refusal and at the end of a free setup.
 void RestoreForward() {
     if (ForwardWasVisible) ShowForward(true);
 }
@@ -51,7 +51,7 @@ void FinishHumanAction(const Action& action) {
     RefreshCandidates();
 }
 
-/// The button is as it was, and the view tells why nothing happened.
+/// Shows the button again and lets the view say why nothing happened.
 void Refuse(std::string_view why) {
     RestoreForward();
     View->TellRefusal(why);

@@ -16,7 +16,7 @@ namespace {
 /// Long enough for the window to draw "Thinking ..." and the busy cursor.
 constexpr float PauseBeforeSearch = 0.05F;
 
-/// What the side plays when this candidate of row 1 was chosen; index 0 stands for none.
+/// What the side plays if this candidate of row 1 was chosen. Index 0 is no candidate.
 Action ActionOf(Int16 chosen) {
     const bool isWithoutPlacement = !BothRingsPlaced() && chosen == 0;
     return isWithoutPlacement ? Action{SquareOf({Pos.SideToMove, 1})} : PlayableAction(chosen);
@@ -39,7 +39,7 @@ Int16 ChooseMove(Int16 depth) {
     View->ShowBusy(true);
     PauseWithEvents(PauseBeforeSearch);
     const Int16 chosen = View->IsClosing() ? Int16{0} : ChooseCandidate(depth);
-    // What the user did during the search is handled now, while it is still ignored.
+    // Input that came during the search is handled now, while IsThinking makes the game ignore it.
     View->HandleEvents();
     View->ShowBusy(false);
     IsThinking = false;

@@ -15,8 +15,8 @@ Int16 ChooseMove(Int16 depth);
 /// Lets the side to move play what a search of `depth` plies chooses, counts the entry and shows
 /// btn_Backward. Without a candidate that can be played the side passes; in the opening its piece 1
 /// receives the ring.
-/// False, and nothing played, when the record is full, the window was closed, or the side has no
-/// piece to give its ring to.
+/// Returns false and plays nothing when the record is full, the window was closed, or the side has
+/// no piece to give its ring to.
 bool PlayChosenMove(Int16 depth);
 
 /// The computer's turn: plays its move and hides btn_Forward. False when nothing was played.

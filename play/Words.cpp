@@ -6,7 +6,7 @@ namespace {
 
 // ---- Places ----
 
-/// The goal is its attacker's, as in "the first player to carry a ring into his goal".
+/// A goal belongs to its attacker, as in "the first player to carry a ring into his goal".
 std::string GoalInWords(int square) {
     return SideInWords(Row(square) == 0 ? Red : Blue) + "'s goal";
 }
@@ -20,7 +20,7 @@ std::string On(int square) {
     return IsGoalMouth(square) ? "in " + GoalInWords(square) : "on " + SquareInWords(square);
 }
 
-/// The end of a way that begins on another square.
+/// The end of a move from another square.
 std::string To(int from, int to) {
     if (!IsOnBoard(to)) return "off the board";
     if (IsGoalMouth(to)) return "into " + GoalInWords(to);
@@ -30,7 +30,7 @@ std::string To(int from, int to) {
 
 // ---- What happened between two positions ----
 
-/// One position and the one that it became.
+/// A position and a later one.
 class Change {
 public:
     Change(const Position& before, const Position& after)
@@ -86,7 +86,7 @@ private:
                PushInWords(piece, way);
     }
 
-    /// The piece that the last hit names, if it is this one that came to its square with it.
+    /// The piece that this one pushed with the last hit, if it came to its square with that hit.
     Piece PushedBy(Piece piece, Way way) const {
         if (!IsAction || piece.Side != Mover || piece.Index != After.LastHit[0]) return {};
         const Piece other = PieceOn(way.To, Before);
@@ -162,7 +162,7 @@ private:
     const Position& Before;
     const Position& After;
     const Int16 Mover;
-    /// The one who is to move has acted, and nothing else.
+    /// True if the side to move made one action and nothing else happened.
     const bool IsAction;
     Piece Pushed;
     std::array<bool, RingCount> RingTold{};
