@@ -41,10 +41,10 @@ public:
                                                   after.MoveCount == before.MoveCount + 1)) {}
 
     std::string InWords() {
-        for (const int side : {+Mover, -Mover}) TellMoves(side);
-        for (std::size_t ring = 0; ring < RingCount; ++ring) TellRing(ring);
-        for (const int side : {+Mover, -Mover}) TellReturns(side);
-        return Told.empty() ? StandstillInWords() : Told;
+        for (const int side : {+Mover, -Mover}) AddMoves(side);
+        for (std::size_t ring = 0; ring < RingCount; ++ring) AddRing(ring);
+        for (const int side : {+Mover, -Mover}) AddReturns(side);
+        return Text.empty() ? StandstillInWords() : Text;
     }
 
 private:
@@ -58,7 +58,7 @@ private:
         return way.From != NoSquare && !InField(way.From) && InField(way.To);
     }
 
-    void Tell(const std::string& words) { Told += (Told.empty() ? "" : "; ") + words; }
+    void Add(const std::string& words) { Text += (Text.empty() ? "" : "; ") + words; }
 
     template <typename Operation>
     void ForEachMoved(int side, Operation operation) {
@@ -72,9 +72,9 @@ private:
 
     // ---- Moves and pushes ----
 
-    void TellMoves(int side) {
+    void AddMoves(int side) {
         ForEachMoved(side, [this](Piece piece, Way way) {
-            if (!IsReturn(way) && piece != Pushed) Tell(MoveInWords(piece, way));
+            if (!IsReturn(way) && piece != Pushed) Add(MoveInWords(piece, way));
         });
     }
 
@@ -101,7 +101,7 @@ private:
         std::string words = ", pushes " + PieceInWords(other) + ' ' + To(way.To, landing);
         for (std::size_t ring = 0; ring < RingCount; ++ring) {
             if (!HasTaken(ring, way.To)) continue;
-            RingTold[ring] = true;
+            RingDone[ring] = true;
             words += " and takes its ring";
         }
         return words;
@@ -114,13 +114,13 @@ private:
 
     // ---- Rings ----
 
-    void TellRing(std::size_t ring) {
-        if (RingTold[ring]) return;
+    void AddRing(std::size_t ring) {
+        if (RingDone[ring]) return;
         const Way way{Before.RingSquare[ring], After.RingSquare[ring]};
         const Piece from = PieceOn(way.From, Before);
         const Piece to = PieceOn(way.To, After);
-        if (IsPlacement(ring) && to) return Tell(TakesInWords(to, way.To));
-        if (from != to || (!to && way.From != way.To)) Tell(RingInWords(from, to, way));
+        if (IsPlacement(ring) && to) return Add(TakesInWords(to, way.To));
+        if (from != to || (!to && way.From != way.To)) Add(RingInWords(from, to, way));
     }
 
     /// The ring can be laid just where it lies.
@@ -148,9 +148,9 @@ private:
 
     // ---- Pieces coming back ----
 
-    void TellReturns(int side) {
+    void AddReturns(int side) {
         ForEachMoved(side, [this](Piece piece, Way way) {
-            if (IsReturn(way)) Tell(PieceInWords(piece) + " comes back " + On(way.To));
+            if (IsReturn(way)) Add(PieceInWords(piece) + " comes back " + On(way.To));
         });
     }
 
@@ -165,8 +165,8 @@ private:
     /// True if the side to move made one action and nothing else happened.
     const bool IsAction;
     Piece Pushed;
-    std::array<bool, RingCount> RingTold{};
-    std::string Told;
+    std::array<bool, RingCount> RingDone{};
+    std::string Text;
 };
 
 }  // namespace
