@@ -25,7 +25,7 @@ public:
     virtual void ShowTurn(Int16 /*side*/) {}
     virtual void Beep() {}
     /// Why an action of the user was refused, for screen readers. Nothing is shown.
-    virtual void TellRefusal(std::string_view /*why*/) {}
+    virtual void AnnounceRefusal(std::string_view /*why*/) {}
 
     // ---- Buttons ----
     virtual void ShowForward(bool /*visible*/) {}

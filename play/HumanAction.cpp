@@ -54,7 +54,7 @@ void FinishHumanAction(const Action& action) {
 /// Shows the button again and lets the view say why nothing happened.
 void Refuse(std::string_view why) {
     RestoreForward();
-    View->TellRefusal(why);
+    View->AnnounceRefusal(why);
 }
 
 /// A move, hit or ring pass.

@@ -26,7 +26,7 @@ public:
     }
     void ShowTurn(Int16 side) override { Base::ShowTurn(side), Add(side == Red ? "Red" : "Blue"); }
     void Beep() override { Add("beep"); }
-    void TellRefusal(std::string_view why) override { Add(std::string(why)); }
+    void AnnounceRefusal(std::string_view why) override { Add(std::string(why)); }
     void ShowForward(bool on) override { Base::ShowForward(on), Add(on ? "+Forward" : "-Forward"); }
     void ShowBackward(bool on) override { Base::ShowBackward(on), Add(on ? "+Back" : "-Back"); }
     /// Between the calls: another seed than 1, or the depth of a search.

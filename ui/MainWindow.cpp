@@ -202,7 +202,7 @@ void MainWindow::ShowTurn(Int16 side) {
 
 void MainWindow::Beep() { QApplication::beep(); }
 
-void MainWindow::TellRefusal(std::string_view why) {
+void MainWindow::AnnounceRefusal(std::string_view why) {
     Announcements->Say(QString::fromUtf8(why.data(), static_cast<qsizetype>(why.size())));
 }
 

@@ -31,7 +31,7 @@ public:
     void ShowMessage(std::string_view text) override;
     void ShowTurn(Int16 side) override;
     void Beep() override;
-    void TellRefusal(std::string_view why) override;
+    void AnnounceRefusal(std::string_view why) override;
     void ShowForward(bool visible) override;
     void ShowBackward(bool visible) override;
     void ShowBusy(bool busy) override;
