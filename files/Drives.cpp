@@ -34,7 +34,7 @@ bool IsUserVolume(std::string_view place, std::string_view type, std::string_vie
     if (isSystem && !IsBelow(place, UserMedia)) return false;
     const bool isDisk = device.starts_with("/dev/") && type != "squashfs";
     const bool isRemote = std::ranges::find(RemoteTypes, type) != RemoteTypes.end();
-    return isDisk || isRemote || type.starts_with("fuse.") || type == "fuseblk";
+    return isDisk || isRemote || type.starts_with("fuse.");
 }
 
 bool IsOctal(std::string_view digits) {

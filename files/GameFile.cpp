@@ -157,9 +157,9 @@ GameReading ReadGameFile(const std::string& path) {
 
 void LoadGameFile(const std::string& path) {
     FileWindows->CloseMainWindow();
-    if (path == LoadedFileName && StartText() == StartRead) {
-        BranchMark = 0;
-    } else if (const FileError error = ReadGameFile(path).Error; error != FileError::None) {
+    const bool isLoaded = path == LoadedFileName && StartText() == StartRead;
+    const FileError error = isLoaded ? FileError::None : ReadGameFile(path).Error;
+    if (error != FileError::None) {
         StartRead.clear();
         ReportFileError(error);
     } else {

@@ -59,9 +59,6 @@ void ReplayEntry(const Action& entry) {
     CountEntry();
 }
 
-void KeepLoadedStart() {
-    LoadedStart = CurrentStart();
-    BranchMark = 0;
-}
+void KeepLoadedStart() { LoadedStart = CurrentStart(); }
 
 }  // namespace brastel

@@ -44,8 +44,8 @@ void CountEntry();
 /// turn: pieces set up outside may have come back earlier in play than they do here.
 void ReplayEntry(const Action& entry);
 
-/// Keeps the start tables in force as the start of the loaded game and ends a branch.
-/// IsOnLoadedLine compares later games with that start.
+/// Keeps the start tables in force as the start of the loaded game. IsOnLoadedLine compares later
+/// games with that start.
 void KeepLoadedStart();
 
 /// True if the loaded game has an entry k.

@@ -117,8 +117,6 @@ void MouseInput::Press(const QMouseEvent& event) {
 void MouseInput::TakePiece() {
     const int square = SquareOf(Pressed);
     DragOffset = Pointer - QPoint(SquareLeft(square), SquareTop(square));
-    // Escape ends the drag only if the form has the keyboard focus.
-    Form->setFocus(Qt::MouseFocusReason);
     Current = Gesture::Drag;
     Form->ShowHeld(square);
     ShowOutline();
@@ -156,7 +154,6 @@ void MouseInput::Release(const QMouseEvent& event) {
 
 void MouseInput::ShowOutline() {
     Outline->move(Pointer - DragOffset - QPoint(FrameMargin, FrameMargin));
-    Outline->raise();
     Outline->show();
 }
 
