@@ -4,6 +4,7 @@
 #include "tests/FilesTest.h"
 
 #include <algorithm>
+#include <sys/stat.h>
 #include <unistd.h>
 
 namespace brastel {
@@ -13,7 +14,7 @@ using Names = std::vector<std::string>;
 using enum ChooserMode;
 
 /// In the order of their bytes.
-const Names Shown{" a b .brs",           "-x.brs",   "B.txt", "a.brs", "c\xff.brs",
+const Names Shown{" a *?b .brs",         "-x.brs",   "B.txt", "a.brs", "c\xff.brs",
                   std::string(255, 'n'), "to a.brs", "棋.brs"};
 
 /// The dialog opened in a folder of odd names, or in one below it.
@@ -35,6 +36,7 @@ public:
     bool Act(const std::string& word, const std::string& what) {
         if (word == "ok") return ConfirmName(what);
         if (word == "drives") Chooser.Drives = {*this / "no", *this / "gone"};
+        if (word == "mode") chmod(what.c_str() + 3, std::stoi(what, nullptr, 8));
         const int row = std::atoi(what.c_str());
         if (word == "click") ClickFile(row);
         if (word == "folder") ChooseFolder(row);
@@ -63,6 +65,7 @@ public:
 TEST(FileChooserTest, EveryStepIsSeen) {
     for (const auto& [row, seen] : RowsOf("/chooser.txt")) {
         SCOPED_TRACE(row);
+        if (row.starts_with("mode") && geteuid() == 0) continue;  // may read all
         for (const ChooserMode mode : {Open, Save}) {
             Dialog dialog(mode);
             bool closes = false;
@@ -121,6 +124,10 @@ TEST(FileChooserTest, FolderRowsLeadDownFromTheDrive) {
         EXPECT_FALSE(ConfirmName(dialog.Folder));
     }
     EXPECT_EQ(below, "gone|sub|to sub|空 x|");
+    // Another drive has since been mounted on the folder last shown.
+    Chooser.Drives.push_back(dialog.Folder);
+    ChooseDrive(Chooser.Drive);
+    EXPECT_EQ(Chooser.Folder, rows[0].Path);
 }
 
 /// The dialog used to show the root while the process stayed in the folder that is no more: what
@@ -143,7 +150,7 @@ TEST(FileChooserTest, ADeletedWorkingFolderIsLeft) {
 
 /// A backslash without three octal digits behind it once ended the program.
 TEST(DrivesTest, VolumesThatAUserChoosesFrom) {
-    const Names drives{"/",        "/b\\9xx\\0x1\\-12\\04\\", "/home", "/home/x",
+    const Names drives{"/",        "/b\\189\\0x1\\-12\\04\\", "/home", "/home/x",
                        "/mnt/a 2", "/run/media/棋",           "/srv",  "/usr2\t\n\\"};
     EXPECT_EQ(DrivesIn(BytesOf(BRASTEL_TEST_DATA "/mountinfo")), drives);
     EXPECT_EQ(DriveOf({"/home", "/home/x"}, "/home/x/x"), "/home/x");
