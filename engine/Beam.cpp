@@ -12,7 +12,7 @@ constexpr int IndexCount = 1024;
 
 constexpr int RankOf(int value, int index) { return (value + 1) * IndexCount - 1 - index; }
 constexpr int IndexOf(int rank) { return IndexCount - 1 - (rank & (IndexCount - 1)); }
-constexpr int WithIndex(int rank, int index) { return rank + IndexOf(rank) - index; }
+void SetIndex(int& rank, int index) { rank += IndexOf(rank) - index; }
 
 struct Ranked {
     int Rank;
@@ -65,8 +65,7 @@ void ListPiece(Shortlist& list, const CandidateSet& set, const PieceCandidates& 
     for (Window rest = worthy; rest != 0; rest &= rest - 1) {
         const int bit = std::countr_zero(rest);
         const int before = isExact ? std::popcount(all & ((rest & -rest) - 1)) : bit;
-        const bool isScored = (piece.Scored >> bit & 1) != 0;
-        List(list, isScored ? *scored++ : CommonAt(piece, bit),
+        List(list, Holds(piece.Scored, bit) ? *scored++ : CommonAt(piece, bit),
              firstIndex + piece.Distant + before);
     }
 }
@@ -100,10 +99,7 @@ Beam SelectBeam(Shortlist& list, int width) {
             displaced = IndexOf(rank) == static_cast<int>(n) ? i : displaced;
         }
         beam.Candidates[n] = list.Entries[selected].Which;
-        if (displaced != MaxCandidates) {
-            int& rank = list.Entries[displaced].Rank;
-            rank = WithIndex(rank, IndexOf(highest));
-        }
+        if (displaced != MaxCandidates) SetIndex(list.Entries[displaced].Rank, IndexOf(highest));
         list.Entries[selected] = list.Entries[--list.Count];
     }
     return beam;

@@ -122,6 +122,8 @@ inline Window WindowOf(const Bitboard& set, int centre) {
     return set.HalfWith(first) >> shift | (fromHigh & -Window{first < 64});
 }
 
+constexpr bool Holds(Window window, int bit) { return (window >> bit & 1) != 0; }
+
 constexpr Window AtOffset(int offset) { return Window{1} << (offset + WindowReach); }
 
 /// The offset of the lowest square in a window that is not empty.

@@ -19,7 +19,6 @@ void AddListed(CandidateSet& set, PieceCandidates& piece, const Candidate& candi
 }
 
 void AddDistant(CandidateSet& set, PieceCandidates& piece, int destination, int value) {
-    if (destination == NoSquare) return;
     ++piece.Distant;
     AddListed(set, piece, CandidateOf({piece.Square, destination}, value));
 }
@@ -39,6 +38,19 @@ void AddCommon(PieceCandidates& piece, Window destinations) {
     piece.Best = std::max(piece.Best, piece.Base + HighestCounter(piece.Added, destinations));
 }
 
+int ValueOfSlide(const PositionTerms& terms, const PieceCandidates& piece, int destination) {
+    if (Holds(terms.Carriers, piece.Square)) return ScoreMove({piece.Square, destination});
+    return piece.Base + CounterAt(DestinationsFrom(terms, piece.Square), destination);
+}
+
+/// A slide of at least so many steps. The step before them must be possible, too.
+void AddSlide(CandidateSet& set, PieceCandidates& piece, Window steps, int direction, int least) {
+    if ((steps & AtOffset((least - 1) * direction)) == 0) return;
+    const int target = SlideTarget(set.Terms, piece.Square, direction, least);
+    if (target == NoSquare) return;
+    AddDistant(set, piece, target, ValueOfSlide(set.Terms, piece, target));
+}
+
 // ---- Pieces without a ring ----
 
 /// Rule 7: a piece may not push back the piece that has just pushed it.
@@ -46,11 +58,6 @@ Bitboard HitsOf(const CandidateSet& set, Int16 index, int square) {
     const Bitboard hits = HitsFrom(set.Terms, set.Pushable, OneSquare[square]);
     if (Pos.LastHit[1] != index) return hits;
     return hits & ~OneSquare[SquareOf({ToInt16(-set.Terms.Side), Pos.LastHit[0]})];
-}
-
-void AddSlide(CandidateSet& set, PieceCandidates& piece, int destination) {
-    const SquareCounters& added = DestinationsFrom(set.Terms, piece.Square);
-    AddDistant(set, piece, destination, piece.Base + CounterAt(added, destination));
 }
 
 void GeneratePlainPiece(CandidateSet& set, PieceCandidates& piece, Int16 index) {
@@ -62,9 +69,8 @@ void GeneratePlainPiece(CandidateSet& set, PieceCandidates& piece, Int16 index) 
     AddCommon(piece, steps | WindowOf(hits & terms.Targets, square));
     AddScored(set, piece, WindowOf(hits & terms.ScoredTargets, square));
     piece.FirstDistant = set.ListedCount;
-    // A slide goes three steps at least, so a step of two in its direction must be possible.
-    if ((steps & AtOffset(2 * Up)) != 0) AddSlide(set, piece, SlideUp(terms, square, 3));
-    if ((steps & AtOffset(2 * Down)) != 0) AddSlide(set, piece, SlideDown(terms, square, 3));
+    AddSlide(set, piece, steps, Up, 3);
+    AddSlide(set, piece, steps, Down, 3);
 }
 
 // ---- Carriers ----
@@ -89,14 +95,14 @@ Window AddCarrierTerms(const PositionTerms& terms, PieceCandidates& piece) {
     if (terms.MustAnswer) return 0;
     const Bitboard besideFriends =
         terms.Own << 1 | terms.Own >> 1 | terms.Own << 8 | terms.Own >> 8;
+    Window overflow =
+        AddTo(piece.Added, WindowOf(besideFriends, piece.Square), Weight::RingBesideFriend);
+    const WindowCounters& gains = terms.Side == Red ? RedGains : BlueGains;
+    // The digits below 4 are empty.
+    static_assert(Weight::RowForward % 4 == 0);
+    for (std::size_t n = 2; n < DigitCount; ++n) overflow |= AddTo(piece.Added, gains[n], 1 << n);
     piece.Base -= 2 * Weight::RowForward;
-    return AddTo(piece.Added, WindowOf(besideFriends, piece.Square), Weight::RingBesideFriend) |
-           Add(piece.Added, terms.Side == Red ? RedGains : BlueGains);
-}
-
-void AddCarrierSlide(CandidateSet& set, PieceCandidates& piece, int destination) {
-    if (destination == NoSquare) return;
-    AddDistant(set, piece, destination, ScoreMove({piece.Square, destination}));
+    return overflow;
 }
 
 void GenerateCarrier(CandidateSet& set, PieceCandidates& piece) {
@@ -111,8 +117,8 @@ void GenerateCarrier(CandidateSet& set, PieceCandidates& piece) {
     AddScored(set, piece, scored);
     piece.FirstDistant = set.ListedCount;
     if (IsGoalFront(terms.Side, square)) AddDistant(set, piece, GoalSquare(terms.Side), WinValue);
-    if ((free & AtOffset(Up)) != 0) AddCarrierSlide(set, piece, SlideUp(terms, square, 2));
-    if ((free & AtOffset(Down)) != 0) AddCarrierSlide(set, piece, SlideDown(terms, square, 2));
+    AddSlide(set, piece, free, Up, 2);
+    AddSlide(set, piece, free, Down, 2);
 }
 
 // ---- All pieces ----

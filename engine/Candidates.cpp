@@ -89,8 +89,8 @@ constexpr std::array<Pattern, 23> CarrierPatterns{{
 bool IsHit(Int16 piece, int square, const Pattern& pattern) {
     const int target = square + pattern.Offset;
     if (Pos.Board[target] != -Pos.SideToMove || !AreEmpty(pattern.Guards, square)) return false;
-    const bool fromTwoAway = pattern.Guards.Count > 0;
-    if (fromTwoAway && IsRingSquare(target)) return false;
+    const bool isFromTwoAway = pattern.Guards.Count > 0;
+    if (isFromTwoAway && IsRingSquare(target)) return false;
     return Pos.Board[square + pattern.Behind] == Empty &&
            !IsPushBack(piece, FindAt(-Pos.SideToMove, target));
 }
@@ -108,29 +108,18 @@ int SlideTarget(int square, const Pattern& slide) {
     return IsOnBoard(next) && isFarEnough && Pos.Board[next] == Pos.SideToMove ? target : NoSquare;
 }
 
-/// Always the same of the two goal squares, even if a piece stands there.
-int GoalEntryTarget(int square) {
-    return IsGoalFront(Pos.SideToMove, square) ? GoalSquare(Pos.SideToMove) : NoSquare;
-}
-
 /// The candidate destination of a pattern for a piece, or NoSquare.
 int TargetOf(Int16 piece, int square, const Pattern& pattern) {
-    if (pattern.What == Kind::Slide) return SlideTarget(square, pattern);
-    if (pattern.What == Kind::GoalEntry) return GoalEntryTarget(square);
+    const Int16 side = Pos.SideToMove;
+    const Kind what = pattern.What;
+    if (what == Kind::Slide) return SlideTarget(square, pattern);
+    if (what == Kind::GoalEntry) return IsGoalFront(side, square) ? GoalSquare(side) : NoSquare;
     const int target = square + pattern.Offset;
     if (!InField(target)) return NoSquare;
     const Int16 cell = Pos.Board[target];
-    bool accepted = false;
-    switch (pattern.What) {
-        case Kind::Move:
-            accepted = cell == Empty && AreEmpty(pattern.Guards, square);
-            break;
-        case Kind::Pass:
-            accepted = cell == Pos.SideToMove && !IsRingSquare(target);
-            break;
-        default:
-            accepted = IsHit(piece, square, pattern);
-    }
+    const bool accepted = what == Kind::Move   ? cell == Empty && AreEmpty(pattern.Guards, square)
+                          : what == Kind::Pass ? cell == side && !IsRingSquare(target)
+                                               : IsHit(piece, square, pattern);
     return accepted ? target : NoSquare;
 }
 

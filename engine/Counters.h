@@ -33,18 +33,6 @@ constexpr Set AddTo(std::array<Set, DigitCount>& digits, Set squares, int number
     return overflow;
 }
 
-/// Adds counters to others.
-inline Window Add(WindowCounters& sums, const WindowCounters& numbers) {
-    Window carry = 0;
-    for (std::size_t n = 0; n < DigitCount; ++n) {
-        const Window odd = sums[n] ^ numbers[n];
-        const Window carried = (sums[n] & numbers[n]) | (odd & carry);
-        sums[n] = odd ^ carry;
-        carry = carried;
-    }
-    return carry;
-}
-
 /// The squares of `all` whose number is at least the given one, which may be any.
 template <typename Set>
 Set AtLeast(const std::array<Set, DigitCount>& digits, int number, Set all) {
@@ -57,18 +45,11 @@ Set AtLeast(const std::array<Set, DigitCount>& digits, int number, Set all) {
     return squares & all;
 }
 
-inline int CounterAt(const SquareCounters& counters, int square) {
+/// The number of a square, or of a bit in a window.
+template <typename Set>
+int CounterAt(const std::array<Set, DigitCount>& counters, int where) {
     int number = 0;
-    for (std::size_t n = 0; n < DigitCount; ++n) number += int{Holds(counters[n], square)} << n;
-    return number;
-}
-
-/// By the number of the bit in the window.
-inline int CounterAt(const WindowCounters& counters, int bit) {
-    int number = 0;
-    for (std::size_t n = 0; n < DigitCount; ++n) {
-        number += static_cast<int>(counters[n] >> bit & 1) << n;
-    }
+    for (std::size_t n = 0; n < DigitCount; ++n) number += int{Holds(counters[n], where)} << n;
     return number;
 }
 

@@ -2,40 +2,26 @@
 
 #include "core/QuietMove.h"
 
+#include <tuple>
+
 namespace brastel {
 
-/// All that a quiet move changes once both rings are placed: saved before the first candidate of a
-/// ply, restored after each. Member by member, because compilers copy a whole Position with `rep
-/// movs`, which is slower.
+/// All that a quiet move changes once both rings are placed. Member by member, because compilers
+/// copy a whole Position with `rep movs`, which is slower.
+inline auto QuietlyChanged() {
+    return std::tie(Pos.Board, Pos.RedSquare, Pos.BlueSquare, Pos.RingSquare, Pos.LastHit,
+                    Pos.OutsideBalance, Pos.SideToMove);
+}
+
+/// A position, saved before the first candidate of a ply and restored after each.
 class PlySave {
 public:
-    PlySave()
-        : Board(Pos.Board),
-          RedSquare(Pos.RedSquare),
-          BlueSquare(Pos.BlueSquare),
-          RingSquare(Pos.RingSquare),
-          LastHit(Pos.LastHit),
-          OutsideBalance(Pos.OutsideBalance),
-          SideToMove(Pos.SideToMove) {}
-
-    void Restore() const {
-        Pos.Board = Board;
-        Pos.RedSquare = RedSquare;
-        Pos.BlueSquare = BlueSquare;
-        Pos.RingSquare = RingSquare;
-        Pos.LastHit = LastHit;
-        Pos.OutsideBalance = OutsideBalance;
-        Pos.SideToMove = SideToMove;
-    }
+    void Restore() const { QuietlyChanged() = Saved; }
 
 private:
-    BoardCells Board;
-    PieceSquares RedSquare;
-    PieceSquares BlueSquare;
-    std::array<Int16, RingCount> RingSquare;
-    std::array<Int16, 2> LastHit;
-    Int16 OutsideBalance;
-    Int16 SideToMove;
+    std::tuple<BoardCells, PieceSquares, PieceSquares, std::array<Int16, RingCount>,
+               std::array<Int16, 2>, Int16, Int16>
+        Saved = QuietlyChanged();
 };
 
 }  // namespace brastel

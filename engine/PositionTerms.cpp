@@ -148,11 +148,8 @@ void FindTerms(PositionTerms& terms) {
     terms.Targets = Field & terms.Enemy & ~terms.ScoredTargets;
     terms.MustAnswer = !(terms.ScoredTargets & (side == Red ? BlueFront : RedFront)).IsEmpty();
     terms.Shared = side * Weight::PieceOutside * Pos.OutsideBalance + CrowdingValue(terms, sets);
-    if (terms.MustAnswer) {
-        terms.Destination = {};
-    } else {
-        FindDestinations(terms, sets);
-    }
+    if (terms.MustAnswer) return terms.Destination.fill({});
+    FindDestinations(terms, sets);
 }
 
 }  // namespace brastel

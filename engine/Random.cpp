@@ -9,9 +9,6 @@ namespace {
 
 std::mt19937 Generator;
 
-/// The standard distributions differ between libraries; this division does not.
-double RandomFraction() { return static_cast<double>(Generator()) / 4294967296.0; }
-
 }  // namespace
 
 void SeedRandom(std::uint32_t seed) { Generator.seed(seed); }
@@ -21,6 +18,9 @@ void ReseedRandom() {
     SeedRandom(static_cast<std::uint32_t>(ticks ^ (ticks >> 32)));
 }
 
-Int16 RandomBelow(Int16 n) { return static_cast<Int16>(RandomFraction() * n); }
+/// The standard distributions differ between libraries; this division does not.
+Int16 RandomBelow(Int16 n) {
+    return static_cast<Int16>(static_cast<double>(Generator()) / 4294967296.0 * n);
+}
 
 }  // namespace brastel

@@ -61,13 +61,6 @@ constexpr auto OpenWindows = [] {
     return open;
 }();
 
-// ---- Slides ----
-
-constexpr BitboardTable ColumnAbove = SquaresRelated(
-    [](int from, int to) { return Column(to) == Column(from) && Row(to) < Row(from); });
-constexpr BitboardTable ColumnBelow = SquaresRelated(
-    [](int from, int to) { return Column(to) == Column(from) && Row(to) > Row(from); });
-
 Bitboard Moved(Bitboard set, int direction) {
     return direction > 0 ? set << direction : set >> -direction;
 }
@@ -80,6 +73,11 @@ constexpr Window HitWindow =
     WindowWhere([](int columns, int rows) { return columns == 0 || rows == 0; });
 constexpr Window PassWindow = WindowWhere(IsPassDistance);
 
+constexpr BitboardTable ColumnAbove = SquaresRelated(
+    [](int from, int to) { return Column(to) == Column(from) && Row(to) < Row(from); });
+constexpr BitboardTable ColumnBelow = SquaresRelated(
+    [](int from, int to) { return Column(to) == Column(from) && Row(to) > Row(from); });
+
 constexpr BitboardTable Reach = SquaresRelated([](int from, int to) {
     const int columns = Column(to) - Column(from);
     const int rows = Row(to) - Row(from);
@@ -87,24 +85,6 @@ constexpr BitboardTable Reach = SquaresRelated([](int from, int to) {
 });
 
 Window StepsInto(Window free) { return OpenWindows[NearPattern(free)] & free; }
-
-int SlideUp(const PositionTerms& terms, int square, int leastSteps) {
-    const Bitboard pieces = (terms.Own | terms.Enemy) & ColumnAbove[square];
-    if (pieces.IsEmpty()) return NoSquare;
-    const int friendSquare = LastIn(pieces);
-    const int target = friendSquare + Down;
-    const bool isFarEnough = target <= square + leastSteps * Up;
-    return isFarEnough && Holds(terms.Own, friendSquare) ? target : NoSquare;
-}
-
-int SlideDown(const PositionTerms& terms, int square, int leastSteps) {
-    const Bitboard pieces = (terms.Own | terms.Enemy) & ColumnBelow[square];
-    if (pieces.IsEmpty()) return NoSquare;
-    const int friendSquare = FirstIn(pieces);
-    const int target = friendSquare + Up;
-    const bool isFarEnough = target >= square + leastSteps * Down;
-    return isFarEnough && Holds(terms.Own, friendSquare) ? target : NoSquare;
-}
 
 void FindPushable(const PositionTerms& terms, PushableTargets& pushable) {
     const Bitboard targets = terms.Targets | terms.ScoredTargets;

@@ -18,10 +18,20 @@ extern const Window PassWindow;
 /// around it.
 Window StepsInto(Window free);
 
+/// The squares of the same column above and below a square.
+extern const BitboardTable ColumnAbove;
+extern const BitboardTable ColumnBelow;
+
 /// Where a slide up or down the column ends: in front of the first piece, if that is a friend and
 /// the slide is at least so many steps long. Otherwise NoSquare.
-int SlideUp(const PositionTerms& terms, int square, int leastSteps);
-int SlideDown(const PositionTerms& terms, int square, int leastSteps);
+inline int SlideTarget(const PositionTerms& terms, int square, int direction, int leastSteps) {
+    const Bitboard& column = direction == Up ? ColumnAbove[square] : ColumnBelow[square];
+    const Bitboard pieces = (terms.Own | terms.Enemy) & column;
+    if (pieces.IsEmpty()) return NoSquare;
+    const int first = direction == Up ? LastIn(pieces) : FirstIn(pieces);
+    const bool isFarEnough = (first - square) * direction > leastSteps * direction * direction;
+    return isFarEnough && Holds(terms.Own, first) ? first - direction : NoSquare;
+}
 
 /// All squares that a piece on a square could reach in any position, but for the goal.
 extern const BitboardTable Reach;

@@ -8,7 +8,7 @@
 #include "engine/TreeSearch.h"
 
 #include <algorithm>
-#include <span>
+#include <vector>
 
 namespace brastel {
 
@@ -22,7 +22,7 @@ struct RootCandidate {
     int Value;
 };
 
-using RootRow = std::span<RootCandidate>;
+using RootRow = std::vector<RootCandidate>;
 
 /// Before both rings are placed no candidate has a value, and all plies have the same placements.
 /// So only the number of plies counts.
@@ -33,12 +33,12 @@ void ValuePlacements(int depth) {
 }
 
 /// One iteration: finds the highest value at the root, and puts a candidate that has it in front.
-int SearchRow(RootRow row) {
+int SearchRow(RootRow& row) {
     const PlySave saved;
     int best = -Infinity;
     auto winner = row.begin();
     for (auto candidate = row.begin(); candidate != row.end(); ++candidate) {
-        const auto search = candidate == row.begin() ? ValueOf : NullWindowValueOf;
+        const auto search = candidate == row.begin() ? ValueOf : NullWindowValue;
         candidate->Value = search(SearchPly, candidate->Which, best, Infinity, saved);
         if (candidate->Value > best) winner = candidate;
         best = std::max(best, candidate->Value);
@@ -51,12 +51,12 @@ int SearchRow(RootRow row) {
 /// Candidates of this value get their rounded values, which decide the ties. The others get lower
 /// ones that fall from entry to entry, so that the selection draws few random numbers for them: no
 /// probability depends on this, but the games of a given seed do.
-void ValueRow(RootRow row, int best) {
+void ValueRow(const RootRow& row, int best) {
     const PlySave saved;
     const auto isBest = [&](const RootCandidate& candidate) {
-        if (&candidate == row.data()) return true;
-        return candidate.Value == best &&
-               ValueOf(SearchPly, candidate.Which, best - 1, best, saved) == best;
+        return &candidate == row.data() ||
+               (candidate.Value == best &&
+                ValueOf(SearchPly, candidate.Which, best - 1, best, saved) == best);
     };
     double highest = -Infinity;
     for (const RootCandidate& candidate : row) {
@@ -79,13 +79,11 @@ void SearchRoot(Int16 depth) {
     // A winning candidate stands first, and all keep their immediate values.
     if (count == 0 || IsWin(MoveScores[SearchPly][1])) return;
     if (!BothRingsPlaced()) return ValuePlacements(depth);
-    std::array<RootCandidate, BeamWidth> candidates;
+    RootRow row;
     for (int n = 1; n <= count; ++n) {
         const Action action = DecodeMove(MoveList[SearchPly][n]);
-        const int value = static_cast<int>(MoveScores[SearchPly][n]);
-        candidates[static_cast<std::size_t>(n - 1)] = {CandidateOf(action, value), n, 0};
+        row.push_back({CandidateOf(action, static_cast<int>(MoveScores[SearchPly][n])), n, 0});
     }
-    const RootRow row(candidates.data(), static_cast<std::size_t>(count));
     ClearTable();
     int best = 0;
     // Iterative deepening by two plies: depths that end with the same side's move have more best

@@ -31,23 +31,23 @@ PositionKey KeyOf(int ply) {
     const auto balance = static_cast<std::uint16_t>(Pos.OutsideBalance);
     const int rings = Pos.RingSquare[0] << 8 | Pos.RingSquare[1];
     const int hit = Pos.LastHit[0] << 8 | Pos.LastHit[1];
-    return {{Packed(Pos.RedSquare, 1, 8), Packed(Pos.BlueSquare, 1, 8),
-             Packed(Pos.RedSquare, 9, 4) | Packed(Pos.BlueSquare, 9, 4) << 32,
-             Word(rings, hit, balance, ply)}};
+    return {Packed(Pos.RedSquare, 1, 8), Packed(Pos.BlueSquare, 1, 8),
+            Packed(Pos.RedSquare, 9, 4) | Packed(Pos.BlueSquare, 9, 4) << 32,
+            Word(rings, hit, balance, ply)};
 }
 
 std::size_t SlotOf(const PositionKey& key) {
     constexpr std::array<std::uint64_t, 4> multipliers{0x9E3779B97F4A7C15, 0xC2B2AE3D27D4EB4F,
                                                        0x165667B19E3779F9, 0xD6E8FEB86659FD93};
     std::uint64_t hash = 0;
-    for (std::size_t n = 0; n < multipliers.size(); ++n) hash ^= key.Words[n] * multipliers[n];
+    for (std::size_t n = 0; n < multipliers.size(); ++n) hash ^= key[n] * multipliers[n];
     hash ^= hash >> 32;
     return hash * multipliers[0] >> (64 - EntryBits);
 }
 
 bool IsCurrent(const TableEntry& entry) { return entry.Search == CurrentSearch; }
 
-int PlyOf(const TableEntry& entry) { return static_cast<int>(entry.Key.Words[3] & 0xFFFF); }
+int PlyOf(const TableEntry& entry) { return static_cast<int>(entry.Key[3] & 0xFFFF); }
 
 /// Buckets have two entries. An old entry is replaced first, then the one deeper in the tree, which
 /// saves less.

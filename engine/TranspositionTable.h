@@ -8,11 +8,7 @@ namespace brastel {
 
 /// All that a value can depend on inside one search, except the depth. The whole position is kept,
 /// not a hash of it, so two positions are never confused. The side to move follows from the ply.
-struct PositionKey {
-    std::array<std::uint64_t, 4> Words;
-
-    bool operator==(const PositionKey&) const = default;
-};
+using PositionKey = std::array<std::uint64_t, 4>;
 
 struct alignas(64) TableEntry {
     PositionKey Key;

@@ -29,7 +29,7 @@ constexpr int PointsAbove(int units) { return -PointsBelow(-units); }
 struct MovePicker {
     int Ply;
     /// From the transposition table; Origin 0 is none.
-    Candidate HashMove;
+    Candidate HashMove{};
     enum { AtHashMove, AtFirst, AtBeam, InBeam } Stage = AtHashMove;
     CandidateSet Candidates;
     Beam Kept;
@@ -37,19 +37,6 @@ struct MovePicker {
 };
 
 Candidate& First(MovePicker& picker) { return picker.Kept.Candidates[0]; }
-
-[[maybe_unused]] bool IsInBeam(const Beam& beam, const Candidate& candidate) {
-    const auto end = beam.Candidates.begin() + static_cast<std::ptrdiff_t>(beam.Count);
-    return std::find(beam.Candidates.begin(), end, candidate) != end;
-}
-
-void FindRest(MovePicker& picker) {
-    [[maybe_unused]] const Candidate first = First(picker);
-    picker.Kept = KeepBeam(picker.Candidates, BeamWidthAt(picker.Ply));
-    picker.Next = 1;
-    assert(First(picker) == first);
-    assert(picker.HashMove.Origin == 0 || IsInBeam(picker.Kept, picker.HashMove));
-}
 
 const Candidate* NextInBeam(MovePicker& picker) {
     while (picker.Next < picker.Kept.Count) {
@@ -77,7 +64,9 @@ const Candidate* NextReply(MovePicker& picker) {
             if (First(picker) != picker.HashMove) return &First(picker);
             [[fallthrough]];
         case MovePicker::AtBeam:
-            FindRest(picker);
+            picker.Kept = KeepBeam(picker.Candidates, BeamWidthAt(picker.Ply));
+            assert(First(picker) == FirstOfBest(picker.Candidates));
+            picker.Next = 1;
             picker.Stage = MovePicker::InBeam;
             [[fallthrough]];
         default:
@@ -116,7 +105,7 @@ int TryReplies(MovePicker& picker, int low, int high, Candidate& best) {
         const int bound = std::max(low, value);
         const bool isFirst = best.Origin == 0;
         const int found = isFirst ? ValueOf(picker.Ply, *reply, bound, high, saved)
-                                  : NullWindowValueOf(picker.Ply, *reply, bound, high, saved);
+                                  : NullWindowValue(picker.Ply, *reply, bound, high, saved);
         if (isFirst || found > value) best = *reply;
         value = std::max(value, found);
     }
@@ -130,7 +119,6 @@ int SearchReplies(int ply, int low, int high) {
     Candidate best{};
     MovePicker picker;
     picker.Ply = ply;
-    picker.HashMove = {};
     if (ply == TreeDepth - 1) return TryReplies(picker, low, high, best);
     TableEntry& entry = ProbeTable(ply);
     const TableEntry before = entry;
@@ -154,8 +142,7 @@ int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySav
     return value;
 }
 
-int NullWindowValueOf(int ply, const Candidate& candidate, int low, int high,
-                      const PlySave& saved) {
+int NullWindowValue(int ply, const Candidate& candidate, int low, int high, const PlySave& saved) {
     const int value = ValueOf(ply, candidate, low, low + 1, saved);
     if (value <= low || value >= high) return value;
     return ValueOf(ply, candidate, value - 1, high, saved);

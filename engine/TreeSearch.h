@@ -19,6 +19,6 @@ extern std::uint64_t SearchedPositions;
 int ValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
 
 /// The same, by a null window first: for a candidate that is probably not better than `low`.
-int NullWindowValueOf(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
+int NullWindowValue(int ply, const Candidate& candidate, int low, int high, const PlySave& saved);
 
 }  // namespace brastel
