@@ -10,7 +10,7 @@ namespace brastel {
 void Hint() {
     if (IsThinking) return;
     // The setup is not finished, so neither side can play yet.
-    if (InFreeSetup()) return ShowStatus(BlankText);
+    if (InFreeSetup()) return;
     if (!PlayChosenMove(Level == TwoPlayerLevel ? HintDepth : Level)) return;
     CheckWin();
     RunComputerTurns(true);
