@@ -84,9 +84,13 @@ constexpr bool PreparesPass(int side, int carrier, int destination) {
 constexpr std::array<int, 4> BesideOffsets{Right, Left, Down, Up};
 constexpr std::array<int, 4> DiagonalOffsets{Up + Left, Up + Right, Down + Left, Down + Right};
 
-/// True if the destination is one of the four squares around a ring at these offsets.
+/// True if the destination is one of the four squares around a ring at these offsets. A loop, because
+/// clang limits the steps of a computation at compile time.
 constexpr bool IsNear(const std::array<int, 4>& offsets, int ring, int destination) {
-    return std::ranges::find(offsets, destination - ring) != offsets.end();
+    for (const int offset : offsets) {
+        if (destination - ring == offset) return true;
+    }
+    return false;
 }
 
 constexpr bool IsFieldCorner(int square) {
