@@ -32,7 +32,8 @@ public:
         fs::current_path(Folder / folder);
         OpenChooser(mode);
     }
-    /// A step of the user, "drives" two of which one is gone. True if the dialog closes.
+    /// A step of the user, "drives" two of which one is gone, or "mode:111gone" for permissions of
+    /// "gone". True if the dialog closes.
     bool Act(const std::string& word, const std::string& what) {
         if (word == "ok") return ConfirmName(what);
         if (word == "drives") Chooser.Drives = {*this / "no", *this / "gone"};
