@@ -123,7 +123,7 @@ TEST_F(AccessibilityTest, WhatHappensIsReadOut) {
         Heard.clear();
         Do(gestures);
         const std::string text = ReadOut();
-        EXPECT_TRUE(text.starts_with(words)) << gestures << ": " << text;
+        EXPECT_EQ(words.ends_with(' ') ? text.substr(0, words.size()) : text, words) << gestures;
         EXPECT_LT(Heard.size(), 100) << gestures;
     }
 }
@@ -137,8 +137,11 @@ TEST_F(AccessibilityTest, ChangedPartsAreTold) {
         EXPECT_TRUE(HasHeard(QAccessible::NameChanged, child)) << child;
     }
     EXPECT_FALSE(HasHeard(QAccessible::NameChanged, 67));
-    Do("Left");
-    EXPECT_TRUE(HasHeard(QAccessible::Focus, 65));
+    for (const char* gestures : {"Left", "Tab Shift+Tab"}) {
+        Heard.clear();
+        Do(gestures);
+        EXPECT_TRUE(HasHeard(QAccessible::Focus, 65)) << gestures;
+    }
 }
 
 /// Calls of assistive technology are no events, so they reach the board even where mouse and
@@ -160,6 +163,10 @@ TEST_F(AccessibilityTest, SquaresCannotBePressedAtTheWrongTime) {
                         Do("mnuFileItem1() btn_Hint()");
                         dialog.close();
                     }});
+    // Given at once after another that opens a dialog.
+    for (const char* item : {"mnu_Rules", "mnu_NewGame"}) Control<QAction>(item)->trigger();
+    QCoreApplication::processEvents();
+    EXPECT_TRUE(State().ends_with("frm_Rules!"));
     EXPECT_EQ(Pos, position);
 }
 

@@ -1,3 +1,4 @@
+#include "play/GameState.h"
 #include "tests/Rows.h"
 #include "tests/WindowTest.h"
 
@@ -52,6 +53,12 @@ TEST_F(MainWindowTest, LeavingTheWindowEndsTheProgram) {
 TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
     Open(3);
     Do("!69");
+    // Also at the last moment.
+    QTimer last;
+    last.callOnTimeout([this] {
+        if (IsThinking) Control<QAction>("mnu_NewGame")->trigger();
+    });
+    last.start(0);
     WhileThinking([this] {
         ASSERT_NE(QGuiApplication::overrideCursor(), nullptr);
         EXPECT_EQ(QGuiApplication::overrideCursor()->shape(), Qt::WaitCursor);
