@@ -32,6 +32,7 @@ struct PaintLog : QPaintDevice, private QPaintEngine {
     void updateState(const QPaintEngineState& /*state*/) override {}
     Type type() const override { return User; }
     void drawPixmap(const QRectF& /*r*/, const QPixmap& /*p*/, const QRectF& /*part*/) override {}
+    void drawPath(const QPainterPath& /*path*/) override {}
     void drawRects(const QRectF* rects, int /*count*/) override {
         Lines += Text(rects->toRect(), painter()->brush().color().name());
     }
@@ -49,7 +50,7 @@ struct PaintLog : QPaintDevice, private QPaintEngine {
 
 constexpr const char* Usual =
     "windowTitle= text= currentText= accessibleName= accessibleDescription= toolTip= visible=true "
-    "enabled=true checked=false default=false";
+    "enabled=true checked=false default=false textFormat=AutoText";
 
 /// An object with those properties that are not as usual.
 QString Line(const QString& name, const QObject& object) {
@@ -67,7 +68,8 @@ QString Line(const QString& name, const QObject& object) {
 QStringList Lines(QWidget& window) {
     if (const auto* box = qobject_cast<QMessageBox*>(&window)) {
         return {Line("box", window),
-                Text(box->icon(), box->standardButtons(), box->defaultButton()->text())};
+                Text(box->icon(), box->standardButtons(), box->defaultButton()->text(),
+                     box->font() == JapaneseFont(9))};
     }
     auto* form = window.findChild<QWidget*>("Form");
     const QRect screen = window.screen()->geometry();
@@ -213,6 +215,9 @@ protected:
             const QRect place = folders->visualItemRect(folders->item(near));
             EXPECT_TRUE(folders->viewport()->rect().contains(place)) << "the next to be entered";
         }
+        PaintLog log;
+        folders->viewport()->render(&log);
+        EXPECT_LT(log.TextPlaces.first().left(), log.TextPlaces.last().left()) << "not indented";
         EXPECT_TRUE(path->text().size() > 30 && folder.endsWith(path->text().mid(1)));
         EXPECT_EQ(QTextDocumentFragment::fromHtml(path->toolTip()).toPlainText(), folder);
         const int drive =
