@@ -202,7 +202,7 @@ FileError WriteTextFile(const std::string& path, const std::string& text) {
     const mode_t mode = old.State().st_mode;
     if (S_ISFIFO(mode)) return FileError::NotAFile;
     if (!S_ISREG(mode)) return ErrorUnless(WriteAndClose(old, text));
-    const bool isDone = Replace(path, old, text) || (!IsDiskFull() && Overwrite(path, text));
+    const bool isDone = Replace(path, old, text) || Overwrite(path, text);
     return ErrorUnless(isDone);
 }
 
