@@ -123,10 +123,13 @@ void CheckBalance(const Position& before, const Action& entry) {
             "the balance of the pieces outside is wrong");
 }
 
-void CheckRings(const Position& before) {
+/// A piece that comes back from outside leaves its ring there. So does a carrier that hits: Forward
+/// can play that after a hint has left the loaded game.
+void CheckRings(const Position& before, const Action& entry) {
+    const bool isHit = before.Board[entry.Destination] == -before.SideToMove;
     for (std::size_t k = 0; k < RingCount; ++k) {
-        // A piece that comes back from outside leaves its ring there.
         const int ring = Pos.RingSquare[k];
+        if (isHit && ring == entry.Origin) continue;
         const bool wasCarried = before.Board[before.RingSquare[k]] != Empty;
         Require(!wasCarried || !InField(ring) || Pos.Board[ring] != Empty, "a ring was lost");
     }
@@ -151,7 +154,7 @@ void CheckPosition(const Position& before, const Action& entry) {
     CheckBalance(before, entry);
     CheckCandidates();
     if (before.MoveCount < 3) return;
-    CheckRings(before);
+    CheckRings(before, entry);
     Require(!HasLateReturns(), "a piece waits that could come back");
 }
 
