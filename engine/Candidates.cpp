@@ -89,8 +89,8 @@ constexpr std::array<Pattern, 23> CarrierPatterns{{
 bool IsHit(Int16 piece, int square, const Pattern& pattern) {
     const int target = square + pattern.Offset;
     if (Pos.Board[target] != -Pos.SideToMove || !AreEmpty(pattern.Guards, square)) return false;
-    const bool isFromTwoAway = pattern.Guards.Count > 0;
-    if (isFromTwoAway && IsRingSquare(target)) return false;
+    // A hit from two squares away has a guard.
+    if (pattern.Guards.Count > 0 && IsRingSquare(target)) return false;
     return Pos.Board[square + pattern.Behind] == Empty &&
            !IsPushBack(piece, FindAt(-Pos.SideToMove, target));
 }

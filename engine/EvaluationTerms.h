@@ -84,13 +84,11 @@ constexpr bool PreparesPass(int side, int carrier, int destination) {
 constexpr std::array<int, 4> BesideOffsets{Right, Left, Down, Up};
 constexpr std::array<int, 4> DiagonalOffsets{Up + Left, Up + Right, Down + Left, Down + Right};
 
-/// True if the destination is one of the four squares around a ring at these offsets. A loop, because
-/// clang limits the steps of a computation at compile time.
+/// True if the destination is one of the four squares around a ring at these offsets. Written out,
+/// because clang limits the steps of a computation at compile time.
 constexpr bool IsNear(const std::array<int, 4>& offsets, int ring, int destination) {
-    for (const int offset : offsets) {
-        if (destination - ring == offset) return true;
-    }
-    return false;
+    const int step = destination - ring;
+    return step == offsets[0] || step == offsets[1] || step == offsets[2] || step == offsets[3];
 }
 
 constexpr bool IsFieldCorner(int square) {
