@@ -1,5 +1,5 @@
-/// Goes through the file dialog with any names typed, in any folders, files and drives. All of it
-/// happens in a root of its own, so that the worst that it can overwrite are its own files.
+/// Uses the file dialog with any names, folders, files and drives. It runs in a root of its own, so
+/// it can only overwrite its own files.
 
 #include "files/FileChooser.h"
 #include "fuzz/FuzzTarget.h"
@@ -42,9 +42,9 @@ std::string Text() {
     return text;
 }
 
-// ---- What lies on the disk. What cannot be made, such as a file in a missing folder, is not. ----
+// ---- The files on the disk. What cannot be made, as in a missing folder, is left out. ----
 
-/// Nothing else is overwritten: to open a pipe would wait for its reader.
+/// Pipes are not written to: opening one would wait for a reader.
 void WriteEntry(const std::string& path, const std::string& bytes) {
     std::error_code ignored;
     const bool isFree = !fs::exists(path, ignored) || fs::is_regular_file(path, ignored);

@@ -8,7 +8,7 @@
 int LLVMFuzzerTestOneInput(const std::uint8_t* data, std::size_t size) {
     using namespace brastel;
     if (size == 0) return 0;
-    // Also draws that go beyond a byte reach to their end.
+    // The factor lets numbers above 255 be drawn, too.
     RandomSource = [=, next = std::size_t{0}]() mutable { return data[next++ % size] * 257U; };
     StartProgram(Roll(LayoutCount));
     BeginPlaying();

@@ -1,5 +1,5 @@
-/// Loads any bytes as a game, steps to its end and back to its start, saves it and loads what was
-/// saved, which must be the same game.
+/// Loads any bytes as a game, steps to its end and back, saves it and loads it again. It must be
+/// the same game.
 
 #include "fuzz/FuzzTarget.h"
 #include "testing/Headless.h"

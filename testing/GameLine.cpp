@@ -22,8 +22,8 @@ Position PositionAfter(Operation operation) {
     return Pos;
 }
 
-/// True if a piece waits outside that the full pass would bring back, which only one that was
-/// placed there by hand can do.
+/// True if the full pass would bring back a piece from outside. Only a piece that was placed there
+/// by hand can wait like this.
 bool HasLateReturns() { return PositionAfter(ReturnOutsidePieces) != Pos; }
 
 void CountKind(const Action& entry) {
@@ -62,8 +62,7 @@ void PlayByGesture(const Action& entry) {
     Drag(entry.Origin, entry.Destination);
 }
 
-/// `expected` is where the entry leads if people may play it; where the rules differ, it is
-/// refused.
+/// `expected` is the position after the entry if people may play it. Otherwise it is refused.
 void CheckGesture(const Action& entry, const Position& expected) {
     const Piece actor = PieceOn(entry.Origin);
     if (!actor) return;
@@ -171,7 +170,7 @@ void FollowEntry(const Action& entry, Origin origin) {
         Require(HasLateReturns(), "a quiet move leads elsewhere than a shown one");
         Count("returns that quiet moves leave out");
     }
-    // A double-click brings nobody back.
+    // A double-click brings no piece back.
     const Position& people = BothRingsPlaced() ? shown : quiet;
     if (origin != Origin::Person) CheckGesture(entry, people);
     Pos = origin == Origin::Person ? people : shown;

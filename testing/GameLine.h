@@ -13,19 +13,19 @@
 /// at the first fault.
 namespace brastel {
 
-/// All that an action can change.
+/// References to all that an action can change.
 inline auto GameData() {
     return std::tie(Pos, RedStart, BlueStart, PlayedFrom, PlayedTo, LoadedFrom, LoadedTo,
                     LoadedCount, BranchMark, ForwardVisible, BackwardVisible, GameOver, Level);
 }
 
-/// A copy of it, to be compared with it or assigned to it.
+/// A copy of that data, for comparing and restoring.
 inline auto CopyOfGameData() {
     return std::apply([](const auto&... part) { return std::tuple(part...); }, GameData());
 }
 using Snapshot = decltype(CopyOfGameData());
 
-/// As long as this lives, nothing is shown; then all is again as it was.
+/// While this object exists, nothing is shown. Its destructor restores the game.
 class Aside {
 public:
     Aside() { SetView(nullptr); }
@@ -41,7 +41,7 @@ private:
     GameView* Shows = View;
 };
 
-/// From the game's start on: Line[k] is the position after k entries. Empty in a free setup.
+/// Line[k] is the position after k entries. Empty in a free setup.
 inline std::vector<Position> Line;
 
 /// False where a piece was placed outside that could come back at once: in play the first action

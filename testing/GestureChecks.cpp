@@ -22,8 +22,8 @@ struct SavedGame {
 };
 std::map<int, SavedGame> Saved;
 
-/// The line of the game loaded last, as long as it is known where its way forward is offered, and
-/// the entry at which an action of a person's own left it; its size while none has.
+/// The positions of the game loaded last; empty when it is not known where Forward must be shown.
+/// LeftAt is the entry at which an action of a person left that game, or its size if none did.
 std::vector<Position> Loaded;
 std::size_t LeftAt = 0;
 
@@ -33,8 +33,7 @@ Int16 WinnerIn(const Position& position) {
     return FindWinner();
 }
 
-/// The way forward must be offered just as long as no action of a person's own left the loaded
-/// game.
+/// Forward must be shown exactly as long as no action of a person has left the loaded game.
 void CheckForward() {
     if (Loaded.size() < 2) return;
     if (Line.size() <= LeftAt) LeftAt = Loaded.size();
@@ -43,7 +42,7 @@ void CheckForward() {
 }
 
 void CheckGame() {
-    // A game stepped back to the start forgets these, and no rule reads them any more.
+    // A step back to the start clears these, and no rule reads them any more.
     if (BothRingsPlaced()) Pos.RedPlaced = Pos.BluePlaced = 0;
     RequireConsistent();
     Require(BackwardVisible == (Pos.MoveCount > 1), "the way back is offered wrongly");
@@ -55,7 +54,7 @@ void CheckGame() {
     Count("full records", IsRecordFull());
 }
 
-/// A gesture, from before it is done until it is over.
+/// The state before a gesture, and the checks after it.
 struct GestureCheck {
     const Gesture Done;
     const Kind What = Done.What;
@@ -66,7 +65,7 @@ struct GestureCheck {
     const bool WasOver = GameOver != False;
     const bool WasThinking = IsThinking;
     const int From = SquareOf(Done.Actor);
-    /// Under the corner to which the point of a click snaps; NoSquare beside the board.
+    /// The square to whose corner the point of a click snaps; NoSquare beside the board.
     const int Clicked = SquareUnder(SnapX(Done.X), SnapY(Done.Y));
     const int To = Done.Target ? SquareOf(Done.Target) : SquareUnder(Done.X, Done.Y);
     const Piece Added{Pos.SideToMove, ToInt16(PieceCount(Pos.SideToMove) + 1)};
@@ -114,7 +113,7 @@ struct GestureCheck {
         if (!IsThinking && !View->IsClosing()) CheckGame();
     }
 
-    /// Only the message may be another, and the way forward end where it cannot be gone.
+    /// Only the message may change, and Forward may disappear where it cannot step.
     void CheckRefusal() const {
         const bool endsWay = What == Kind::Forward && !IsThinking;
         if (endsWay) {
@@ -192,7 +191,7 @@ struct GestureCheck {
         Count("saved games loaded");
     }
 
-    /// What is done changes at most one thing.
+    /// The gesture changes at most one thing.
     void CheckSmallChange() const {
         Require(StatusLine() == Message && Pos.MoveCount == First, "more was done");
         if (What == Kind::Click) {

@@ -11,10 +11,10 @@ namespace brastel {
 
 namespace {
 
-/// The computer plays on for itself, without which few games are won.
+/// So many hints follow. Without hints few games are won.
 int HintsAhead = 0;
 
-/// Nothing ends the game, so that it reaches the end of the record.
+/// True if no gesture ends the game, so that it reaches the end of the record.
 bool IsEndless = false;
 
 int AnySquare() { return FirstSquare + Roll(LastSquare); }
@@ -43,7 +43,8 @@ Gesture ClickAnywhere() {
     return {Kind::Click, {}, {}, x, y};
 }
 
-/// If the first piece stands outside, so may the others, some behind a friend so that they wait.
+/// If the first piece stands outside, the others can stand there, too. Some stand behind a friend,
+/// so that they wait.
 Gesture SetUp() {
     const Int16 side = IsPlacingRing(Red) ? Red : Blue;
     const int pieces = PieceCount(side);
@@ -56,7 +57,7 @@ Gesture SetUp() {
     return ClickOn(SquareAt(1 + place / 6, 1 + place % 6));
 }
 
-/// Along the loaded game, now and then by the user's own hand.
+/// Plays the next entry of the loaded game, sometimes by a gesture instead of Forward.
 Gesture FollowLoaded() {
     const auto [from, to] = LoadedEntry(Pos.MoveCount);
     if (!OneIn(4)) return {Kind::Forward};
@@ -64,7 +65,7 @@ Gesture FollowLoaded() {
     return DropOnSquare(from, to);
 }
 
-/// Mostly accepted, so that games get somewhere.
+/// An action that is mostly accepted, so that games make progress.
 Gesture Act() {
     if (ForwardVisible && OneIn(2)) return FollowLoaded();
     if (InFreeSetup()) return SetUp();
@@ -99,7 +100,7 @@ Gesture AskHints() {
     return {Kind::Hint};
 }
 
-/// Deeper levels play by the same steps, only longer.
+/// Deeper levels only take longer.
 constexpr std::array Levels{0, 0, 1, 1, 2, 2, 3, -1, MaxPly + 1};
 
 Gesture Numbered(Kind what, int number) { return {what, {}, {}, 0, 0, number}; }
@@ -131,7 +132,7 @@ constexpr std::array Rows{
 Gesture DrawGesture() {
     const bool isWon = GameOver != False && !IsEndless;
     if (HintsAhead > 0 && !isWon && !IsThinking) return --HintsAhead, Gesture{Kind::Hint};
-    // A few actions more after a win.
+    // A few actions follow a win.
     if (isWon && OneIn(8)) return {Kind::NewGame};
     if (IsEndless && OneIn(2)) return Act();
     const Gesture gesture = DrawWeighted(Rows).Draw();

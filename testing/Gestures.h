@@ -2,7 +2,7 @@
 
 #include "core/Position.h"
 
-/// The one list of what a user may do at any moment, whatever draws from it and however it is done.
+/// The one list of what a user may do at any moment. It is used by all random players.
 namespace brastel {
 
 enum class Kind {
@@ -26,24 +26,24 @@ enum class Kind {
 
 struct Gesture {
     Kind What;
-    /// Dropped or double-clicked; need not exist.
+    /// The piece that is dropped or double-clicked. It need not exist.
     Piece Actor{};
-    /// The piece that another one is dropped on; none where it is dropped at a point.
+    /// The piece under the drop; none for a drop at a point.
     Piece Target{};
     /// A point of the view.
     int X = 0;
     int Y = 0;
-    /// Of a level, a layout (both perhaps out of range) or a saved game.
+    /// The number of a level, a layout (both can be out of range) or a saved game.
     int Number = 0;
 };
 
 constexpr int SavedGameCount = 2;
 
-/// Draws one by its weight, mostly what brings the game on; while the computer thinks, none that
-/// takes a dialog.
+/// Draws a gesture by its weight. Most advance the game. While the computer thinks, none opens a
+/// dialog.
 Gesture DrawGesture();
 
-/// Leaves out what earlier gestures led to.
+/// Forgets what earlier gestures prepared.
 void ForgetGestures();
 
 }  // namespace brastel

@@ -44,8 +44,8 @@ void Do(const Gesture& gesture) {
     if (what == Kind::PieceNumber) SelectStartLayout(number), Windows.OpenMainWindow();
 }
 
-/// A user who cannot wait gives commands, none of which may do anything now, and may close the
-/// window. They are drawn from dice of their own, so that a fuzzer's bytes keep their meaning.
+/// Gives commands while the computer thinks, which must all be ignored, and can close the window.
+/// They have random numbers of their own, so that a fuzzer's bytes keep their meaning.
 void ActWhileThinking() {
     static Dice meanwhile;
     const auto chance = std::exchange(RandomSource, std::ref(meanwhile));
@@ -68,7 +68,7 @@ void PlayOne() {
     Do(gesture);
     if (gesture.What != Kind::Close) ClosesNext = false;
     check();
-    // The program ended with its window.
+    // The program has ended with its window.
     Count("closings while the computer thought", Shown.Closing);
     if (Shown.Closing) BeginPlaying();
     RequireSound();

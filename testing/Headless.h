@@ -11,7 +11,7 @@ namespace brastel {
 
 inline ShownGame Shown;
 
-/// The windows around the game: counts the boxes with an error.
+/// Stands for the windows around the game. Counts the boxes that show an error.
 class ShownFiles : public FileView {
 public:
     int Warnings = 0;
@@ -27,11 +27,11 @@ public:
 };
 inline ShownFiles Windows;
 
-/// All data as after a start of the program; the layout waits for the main window to be opened, by
-/// a load or else.
+/// Sets all data as after a start of the program. The layout is used when the main window opens,
+/// which a load can do, too.
 void StartProgram(int layout = 3);
 
-/// The position is in order, and the window shows it and nothing else.
+/// Checks that the position is consistent and that the window shows it.
 void RequireSound();
 
 /// The path of a new file that lives in memory.
@@ -44,10 +44,10 @@ void SaveIn(const std::string& path);
 /// Loads the file as from the menu. True if no error was shown.
 bool LoadFrom(const std::string& path);
 
-/// Opens the main window, after which each of the gestures to come is watched.
+/// Opens the main window. From then on, every gesture is checked.
 void BeginPlaying();
 
-/// Draws gestures and does them.
+/// Draws so many gestures and makes them.
 void Play(int gestures);
 
 }  // namespace brastel

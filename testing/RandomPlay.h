@@ -18,8 +18,8 @@ int Below(Source& dice, int n) {
     return static_cast<int>(dice() % static_cast<unsigned>(n));
 }
 
-/// An action that people may take, or NullMove: the best of a few candidates in row 1 (aimless
-/// games see few hits), or sometimes a ring carrier's long step, which no candidate is.
+/// An action that people may take, or NullMove: the best of a few candidates in row 1, since
+/// random candidates rarely hit, or sometimes a long step of a ring carrier, which is no candidate.
 template <typename Source>
 Action DrawAction(Source& dice) {
     for (int attempt = 0; attempt < 20 && CandidateCount[1] > 0; ++attempt) {

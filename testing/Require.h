@@ -4,18 +4,18 @@
 #include <stdexcept>
 #include <string>
 
-/// What all checks report to.
+/// How checks report faults, and what they count.
 namespace brastel {
 
-/// Something that must never be: it ends the game that is being played, and the run.
+/// Throws an exception with the text unless the condition holds.
 inline void Require(bool holds, const std::string& otherwise) {
     if (!holds) throw std::logic_error(otherwise);
 }
 
-/// How often everything happened, so that a run shows that it has looked at all of it.
+/// How often each kind of event happened: a run is only valid if all kinds did.
 inline std::map<std::string, long long> Tally;
 
-/// As many kinds are counted in all.
+/// The number of kinds that are counted.
 constexpr std::size_t KindsOfEvent = 19;
 
 inline void Count(const char* kind, bool happened = true) {

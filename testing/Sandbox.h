@@ -14,8 +14,8 @@ inline bool IsInSandbox() {
     return mark != nullptr && mark == std::filesystem::read_symlink("/proc/self/ns/mnt");
 }
 
-/// Starts this program anew in the sandbox, if the system allows one and it does not run there. To
-/// be called first, with all words of the command line.
+/// Starts this program again in the sandbox, if the system allows one and it does not run there
+/// yet. Call it first, with all words of the command line.
 inline void EnterSandbox(char** words) {
     if (IsInSandbox() || std::getenv("BRASTEL_NO_SANDBOX") != nullptr) return;
     std::string script = BRASTEL_IN_SANDBOX;

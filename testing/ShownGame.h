@@ -10,10 +10,10 @@
 #include <functional>
 #include <string>
 
-/// A game without a window: for tests, and for programs that look for faults.
+/// A game without a window.
 namespace brastel {
 
-/// Keeps what a window would show.
+/// Stores what a window would show.
 class ShownGame : public GameView {
 public:
     /// The position as last drawn.
@@ -34,7 +34,7 @@ public:
     void ShowForward(bool visible) override { Forward = visible; }
     void ShowBackward(bool visible) override { Backward = visible; }
     void ShowBusy(bool busy) override { BusyDepth += busy ? 1 : -1; }
-    /// Time passes by events alone, so that nobody waits.
+    /// Only events advance the clock, so no pause takes time.
     void HandleEvents() override {
         Clock += 0.02;
         OnEvents();
@@ -42,7 +42,7 @@ public:
     double Now() const override { return Clock; }
     bool IsClosing() const override { return Closing; }
 
-    /// What is shown otherwise than the game has it, or empty. Between actions of the user.
+    /// The first thing that is shown wrongly, or empty. Call it between actions of the user.
     std::string FirstWrong() const {
         if (Drawn.Board != Pos.Board || Drawn.RingSquare != Pos.RingSquare) return "the board";
         if (Turn != Pos.SideToMove) return "the turn circles";

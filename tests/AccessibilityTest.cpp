@@ -17,7 +17,7 @@ namespace brastel {
 
 namespace {
 
-/// What assistive technology gets to know, through Qt's own interface.
+/// What assistive technology reads, through Qt's own interface.
 class AccessibilityTest : public WindowTest {
 protected:
     AccessibilityTest() {
@@ -42,7 +42,7 @@ protected:
         return std::ranges::count(Heard, Event(type, Child(child))) > 0;
     }
 
-    /// Offscreen, nobody asks for events, and none are sent then.
+    /// Offscreen, nobody asks for events, and then Qt sends none.
     static void ActAsListened(bool isListened) {
         QGuiApplicationPrivate::platformIntegration()->accessibility()->setActive(isListened);
     }
@@ -51,7 +51,7 @@ protected:
     /// A square, or what comes behind the squares.
     QAccessibleInterface* Child(int number) { return Board()->child(number - 1); }
     static QString NameOf(QAccessibleInterface* object) { return object->text(QAccessible::Name); }
-    /// Also lets be done what was only asked for.
+    /// Also waits for commands that run later.
     void Act(int square, const QString& action) {
         Child(square)->actionInterface()->doAction(action);
         QCoreApplication::processEvents();
@@ -93,7 +93,7 @@ TEST_F(AccessibilityTest, EverySquareSaysWhatStandsThere) {
     EXPECT_EQ(actions->keyBindingsForAction("Give ring"), QStringList("R"));
 }
 
-/// What comes behind the squares, and that all parts know their place.
+/// The parts after the squares, and the index of every part.
 TEST_F(AccessibilityTest, ThePanelIsRead) {
     const auto description = [this](QAccessibleInterface* part) {
         return part->text(QAccessible::Description).toStdString();
@@ -163,7 +163,7 @@ TEST_F(AccessibilityTest, SquaresCannotBePressedAtTheWrongTime) {
                         Do("mnuFileItem1() btn_Hint()");
                         dialog.close();
                     }});
-    // Given at once after another that opens a dialog.
+    // A command directly after another one that opens a dialog.
     for (const char* item : {"mnu_Rules", "mnu_NewGame"}) Control<QAction>(item)->trigger();
     QCoreApplication::processEvents();
     EXPECT_TRUE(State().ends_with("frm_Rules!"));

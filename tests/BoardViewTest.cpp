@@ -56,7 +56,7 @@ TEST_F(BoardViewTest, EverythingIsDrawnInItsPlace) {
     for (int square = FirstSquare; square <= LastSquare; ++square) {
         if (InField(square)) outline({SquareLeft(square), SquareTop(square), 41, 41});
     }
-    // Centre line, sides, and what the goals leave of the ends.
+    // The centre line, the sides, and the ends beside the goals.
     for (const QLine line :
          {QLine(60, 300, 300, 300), QLine(60, 60, 60, 540), QLine(300, 60, 300, 540),
           QLine(60, 60, 140, 60), QLine(220, 60, 300, 60), QLine(60, 540, 140, 540),

@@ -18,7 +18,7 @@ TEST(CandidatesTest, AreWhatTheRulesAccept) {
     }
 }
 
-// ---- The fast twin, inside the search ----
+// ---- The fast form, inside the search ----
 
 /// The highest value, asked for between bounds on either side of it or around it.
 void CompareHighestValue(int highest) {

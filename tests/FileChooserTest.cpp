@@ -131,8 +131,8 @@ TEST(FileChooserTest, FolderRowsLeadDownFromTheDrive) {
     EXPECT_EQ(Chooser.Folder, rows[0].Path);
 }
 
-/// The dialog used to show the root while the process stayed in the folder that is no more: what
-/// was typed from the lists on view was not found.
+/// The dialog used to show the root while the process stayed in the deleted folder. So a name from
+/// the lists was not found when it was typed.
 TEST(FileChooserTest, ADeletedWorkingFolderIsLeft) {
     for (const bool opensAgain : {false, true}) {
         Dialog dialog(Open, "gone");

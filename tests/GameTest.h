@@ -14,7 +14,7 @@
 
 namespace brastel {
 
-/// A game that notes what the view is told, in order.
+/// A game that writes down what the view is told, in order.
 class NotedGame : public ShownGame {
 public:
     using Base = ShownGame;
@@ -90,7 +90,8 @@ protected:
 
     static void DoubleClick(Int16 side, int index) { DoubleClickPiece({side, ToInt16(index)}); }
 
-    /// 68-60 drags, +68 clicks, R3 double-clicks Red piece 3; entry200 leaps to that entry.
+    /// 68-60 drags, +68 clicks, R3 double-clicks Red piece 3; entry200 sets that number of the next
+    /// entry.
     static void Do(const std::string& command) {
         static const std::map<std::string, void (*)(int)> words{
             {"+", [](int n) { ClickBoard(SquareLeft(n) + 20, SquareTop(n) + 20); }},

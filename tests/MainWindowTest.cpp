@@ -49,7 +49,7 @@ TEST_F(MainWindowTest, LeavingTheWindowEndsTheProgram) {
     }
 }
 
-/// Clicks of impatient players used to be played after the search, as moves nobody had meant.
+/// Clicks during a search used to be played after it, as moves that nobody had meant.
 TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
     Open(3);
     Do("!69");
@@ -70,7 +70,7 @@ TEST_F(MainWindowTest, WhatIsDoneWhileTheComputerThinksIsDropped) {
         QTest::mouseClick(Window.windowHandle(), Qt::LeftButton, {},
                           bar->mapTo(&Window, bar->actionGeometry(menu->menuAction()).center()));
         EXPECT_FALSE(menu->isVisible());
-        // By a way that is neither mouse nor key.
+        // Not by mouse or keyboard.
         Do("mnu_God() mnu_NewGame() mnu_GameSize()");
         // Pressed now, released after the move.
         Do("v70");

@@ -6,12 +6,12 @@
 #include <sstream>
 #include <utility>
 
-/// Positions for comparing what is fast with its plain twin.
+/// Positions for comparing fast code with its plain form.
 namespace brastel {
 
 /// Up to twelve pieces of each side, few more often than many, anywhere on the board, some outside
-/// or nowhere; a ring may lie on any square. All this a game file may hold, and more than play
-/// shows. Now and then the setup is left before its end.
+/// or nowhere; a ring may lie on any square. A game file can have all this. Sometimes
+/// the setup is not finished.
 inline void SetUpAnything(Dice& dice) {
     SelectStartLayout(FreeSetupLayout);
     SetUpStartPosition();
@@ -43,7 +43,7 @@ inline void DrawPosition(Dice& dice) {
     Wander(Below(dice, FreeSetupLayout), Below(dice, 80), dice);
 }
 
-/// What a search of the position can see, but for the order of the pieces.
+/// The parts of the position that a search reads, without the order of the pieces.
 inline std::string Described() {
     std::ostringstream text;
     text << Listed() << " last hit " << Pos.LastHit[0] << ' ' << Pos.LastHit[1] << " outside "

@@ -7,7 +7,7 @@
 namespace brastel {
 namespace {
 
-/// Beside what people may do, for which they are told why not otherwise.
+/// The rules for entries that people cannot make themselves.
 TEST(RecordCheckTest, BrokenRulesAreNamed) {
     const std::vector<std::tuple<const char*, int, int, const char*>> cases{
         {"r1 B44", 0, 0, ""},

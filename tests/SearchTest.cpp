@@ -10,7 +10,7 @@
 namespace brastel {
 namespace {
 
-// ---- The search in the plainest way that makes the same choices ----
+// ---- The plain algorithm, which makes the same choices ----
 
 struct PlainCandidate {
     MoveCode Code;
@@ -20,7 +20,7 @@ struct PlainCandidate {
 };
 using CandidateRow = std::vector<PlainCandidate>;
 
-/// What stands in row 1 of the candidate tables.
+/// The content of row 1 of the candidate tables.
 CandidateRow RowOne() {
     CandidateRow row;
     for (int n = 1; n <= CandidateCount[1]; ++n) row.push_back({MoveList[1][n], MoveScores[1][n]});
@@ -163,8 +163,8 @@ TEST(SearchTest, AgreesWithPlainSearchWhereAllIsLost) {
     }
 }
 
-/// Whatever the search remembers, an earlier search must not show: least of all one of the same
-/// pieces with the other side to move, which is the hardest to tell apart.
+/// The entries of an earlier search must not change a later one. Hardest to tell apart are the same
+/// pieces with the other side to move.
 TEST(SearchTest, ForgetsEarlierSearches) {
     Dice dice(8);
     for (Int16 n = 0; n < 40; ++n) {
@@ -179,9 +179,10 @@ TEST(SearchTest, ForgetsEarlierSearches) {
     }
 }
 
-/// Everything that a value depends on must tell two positions apart: what the memory takes for the
-/// same position is answered with the value of another, which random positions hardly ever show.
-TEST(SearchTest, TellsRememberedPositionsApart) {
+/// Positions that differ in anything that a value depends on need different keys of the
+/// transposition table. Otherwise one gets the value of the other, which random positions hardly
+/// ever show.
+TEST(SearchTest, PositionsHaveKeysOfTheirOwn) {
     SelectStartLayout(FreeSetupLayout - 1);
     SetUpStartPosition();
     Pos.OutsideBalance = -1;

@@ -70,8 +70,8 @@ bool SaveWithFailure(bool hasTwin, int successes) {
     return hasFailed;
 }
 
-/// Whatever fails, the old text is still there, in its file or, if nothing works any more, in a
-/// copy, and a file said to be saved holds the new text.
+/// Whatever fails, the old text is still in its file or, if nothing works any more, in a copy. A
+/// file that is reported as saved has the new text.
 TEST(TextFileTest, NoFailureLosesTheOldText) {
     for (const int kind : {0, 1, 2, 3, 4, 5}) {
         Error = kind < 4 ? EIO : ENOSPC;

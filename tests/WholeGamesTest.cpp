@@ -43,7 +43,7 @@ protected:
         Do(InField(to) ? std::to_string(from) + '-' + std::to_string(to) : "btn_Hint");
     }
 
-    /// They follow the computer's moves, and not those of a hand.
+    /// They change after moves of the computer, and not after those of people.
     void ExpectHiddenTexts() {
         const auto text = [this](const QString& box) {
             return Control<QObject>(box.toUtf8())->property("text").toString();

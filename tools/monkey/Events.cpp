@@ -10,14 +10,14 @@ namespace brastel {
 
 namespace {
 
-/// Prints an event. True if the window is there to get it.
+/// Prints an event. True if the window exists and is visible.
 bool Reaches(const QWindow* window, const QString& words) {
     const QString name = window == nullptr ? "nowhere" : window->objectName();
     std::cerr << EventName << words.toStdString() << " in " << name.toStdString() << '\n';
     return window != nullptr && window->isVisible();
 }
 
-/// A window has the mouse as long as a button is held that was pressed there.
+/// Mouse events go to the window in which a button was pressed, until it is released.
 void SendMouse(const char* words, QTest::MouseAction action, QPoint place, Qt::MouseButton button) {
     static QPointer<QWindow> window;
     const bool isHeld = QTestPrivate::qtestMouseButtons != Qt::NoButton;

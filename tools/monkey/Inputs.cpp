@@ -27,7 +27,7 @@ constexpr int MenuKeys[] = {Qt::Key_O, Qt::Key_L, Qt::Key_L, Qt::Key_H};
 const char* const Games[] = {
     "good/03-example.txt", "good/200-entries.txt", "good/01-free-setup-red-ready.txt",
     "damaged/04-image.txt", "good/neu"};
-/// Whatever else may be typed, a fuzz target types without a window.
+/// A fuzz target types all other names, without a window.
 const QString OddNames[] = {
     "*.*", "?", "good", "..", "/", "/proc", "/dev/zero", "/root", "", "no/such/folder", "%s%n",
     "名前", "\u202eabc", "a\nb", QString(5000, 'y')};

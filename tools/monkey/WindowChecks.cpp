@@ -22,7 +22,7 @@ constexpr int SpareWidgets = 40;
 QSize SizeAtFirst;
 qsizetype WidgetsAtFirst = 0;
 
-/// What is on the screen, not what would be painted now.
+/// The content of the screen, not what would be painted now.
 QImage Screenshot() {
     const QRect board = GameWindow->centralWidget()->geometry();
     return GameWindow->screen()
@@ -50,7 +50,7 @@ void RememberWindow() {
     WidgetsAtFirst = QApplication::allWidgets().size();
 }
 
-/// While the window is away, a game is read from a file, and nothing need fit.
+/// While the window is closed, a game is read from a file, and the controls need not fit it.
 void CheckControls() {
     if (!GameWindow->isVisible()) return;
     Require(IsShown("btn_Forward") == ForwardVisible, "Forward is not as the game has it");

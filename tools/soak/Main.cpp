@@ -1,4 +1,4 @@
-/// Plays very many games by dice and checks everything after every gesture.
+/// Plays many random games and checks everything after every gesture.
 
 #include "core/StartPosition.h"
 #include "testing/Headless.h"
@@ -43,6 +43,6 @@ int main(int count, char** texts) {
     if (!games || !seed) return std::cerr << Usage, 2;
     for (std::int64_t game = 0; game < *games; ++game) PlayGame(*seed + game);
     for (const auto& [kind, times] : Tally) std::cout << times << "  " << kind << '\n';
-    // A long run that never saw some kind of event has proved nothing about it.
+    // A long run without some kind of event has tested nothing of that kind.
     return *games >= EnoughGames && Tally.size() < KindsOfEvent ? EXIT_FAILURE : EXIT_SUCCESS;
 }
