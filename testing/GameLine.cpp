@@ -103,6 +103,13 @@ std::ptrdiff_t CountPieces(const Position& position, Int16 side) {
     return std::ranges::count(&board[FirstSquare], &board[LastSquare] + 1, side);
 }
 
+bool StandsOutside(Int16 side) {
+    for (int i = 1; i <= PieceCount(side); ++i) {
+        if (!InField(SquaresOf(side)[i])) return true;
+    }
+    return false;
+}
+
 /// Red pieces outside less Blue ones, counted on the board.
 int CountOutside(const Position& position) {
     int balance = 0;
@@ -191,11 +198,16 @@ void BeginLine() {
     SetUpStartPosition();
     LineIsExact = !HasLateReturns();
     Line.assign(1, Pos);
+    const bool startsOutside = StandsOutside(Red) || StandsOutside(Blue);
     for (int k = 1; k < played.MoveCount; ++k) {
         ReplayEntry(PlayedEntry(k));
         Line.push_back(Pos);
     }
-    Require(Pos == played || !LineIsExact, "the record leads elsewhere than the game");
+    // Blue pieces that were set up after Red's ring can keep a piece out that came back before
+    // them.
+    Require(Pos == played || !LineIsExact || startsOutside,
+            "the record leads elsewhere than the game");
+    LineIsExact = LineIsExact && Pos == played;
     Pos = Line.back() = played;
     CheckCandidates();
 }
