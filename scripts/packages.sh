@@ -3,15 +3,13 @@
 # The lists are used there.
 # shellcheck disable=SC2034
 
-BuildPackages=(g++ cmake ninja-build qt6-base-dev)
+BuildPackages=(g++ cmake ninja-build qt6-base-dev libcli11-dev)
 # Half-width katakana need a Japanese font.
 FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
 TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-utils at-spi2-core
     dbus-daemon libglib2.0-bin python3-pyatspi bubblewrap)
 CheckPackages=(clang-format clang-tidy shellcheck)
-# For the programs beside the game.
-ToolPackages=(libcli11-dev)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
 IconPackages=(librsvg2-bin)
 PackagingPackages=(dpkg-dev file desktop-file-utils appstream mandoc lintian hicolor-icon-theme)
@@ -24,9 +22,10 @@ may_use_sudo() {
 }
 
 # Installs what is missing of the packages named. Without the right to do so it prints the command
-# that would and ends the script.
+# that would and ends the script. Without apt it does nothing.
 need_packages() {
     local missing=() package
+    command -v apt-get >/dev/null || return 0
     for package in "$@"; do
         dpkg-query -W -f='${Status}' "$package" 2>/dev/null | grep -q '^install ok installed$' ||
             missing+=("$package")
@@ -52,6 +51,12 @@ need_packages() {
 CMakeOptions=(-DCMAKE_COMPILE_WARNING_AS_ERROR=OFF)
 build_preset() {
     mkdir -p build
-    cmake --preset "$1" "${CMakeOptions[@]}" >build/configure.log || { cat build/configure.log; exit 1; }
-    cmake --build --preset "$1" ${2:+--target "$2"}
+    if cmake --preset "$1" "${CMakeOptions[@]}" >build/configure.log; then
+        cmake --build --preset "$1" ${2:+--target "$2"} && return
+    else
+        cat build/configure.log
+    fi
+    echo "The build failed. This is what it needs:" >&2
+    sed -n '/^## Requirements/,/^## /{/^## /!p}' README.md >&2
+    exit 1
 }
