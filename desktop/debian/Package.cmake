@@ -3,11 +3,10 @@ find_program(DPKG dpkg)
 if(NOT DPKG)
     return()
 endif()
-string(REGEX REPLACE "^[a-z]+://" "" Host "${BRASTEL_WEBSITE}")
 set(CPACK_GENERATOR DEB)
 set(CPACK_PACKAGE_NAME brastel)
-set(CPACK_PACKAGE_CONTACT "The Brastel developers <developers@${Host}>")
-set(CPACK_PACKAGE_HOMEPAGE_URL ${BRASTEL_WEBSITE})
+# There is no web site yet. This is a reserved name.
+set(CPACK_PACKAGE_CONTACT "The Brastel developers <developers@brastel.example>")
 set(CPACK_STRIP_FILES ON)
 set(CPACK_INSTALL_DEFAULT_DIRECTORY_PERMISSIONS
     OWNER_READ OWNER_WRITE OWNER_EXECUTE GROUP_READ GROUP_EXECUTE WORLD_READ WORLD_EXECUTE)
