@@ -11,12 +11,12 @@ constexpr bool IsPassDistance(int columns, int rows) {
     return columns != 0 && rows != 0 && columns * columns + rows * rows <= 5;
 }
 
-/// True if the passer may hand a ring to the receiver: both of the side to move, the receiver in
+/// True if the passer may pass a ring to the receiver: both of the side to move, the receiver in
 /// the field and without a ring. The passer may wait outside. Pieces that do not exist are refused.
 bool CheckRingPass(Piece passer, Piece receiver);
 
-/// Hands the passer's ring over and forgets the last hit; ring 0 goes first should both rings lie
-/// on the passer's square.
+/// Gives the passer's ring to the receiver and forgets the last hit. If both rings lie on the
+/// passer's square, ring 0 is given.
 void ApplyRingPass(Piece passer, Piece receiver);
 
 }  // namespace brastel

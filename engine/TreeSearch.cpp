@@ -23,7 +23,7 @@ constexpr int PointsAbove(int units) { return -PointsBelow(-units); }
 
 // ---- The move picker ----
 
-/// Hands out the beam of a position, the likely best first: the hash move, the best candidate, the
+/// Returns the beam of a position one by one, the likely best first: the hash move, the best candidate, the
 /// rest of the beam. The order changes no value. Mostly the first reply causes a cut-off, so each
 /// stage is computed only when it is reached.
 struct MovePicker {

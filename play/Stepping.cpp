@@ -49,7 +49,7 @@ void StepBack() {
     ShowStatus(BlankText);
     View->PlacePieces();
     if (kept == 0) ShowBackward(false);
-    // Without a branch only the end of the loaded game hides the button.
+    // What hid Forward: an action of the user's own (BranchMark) or the end of the loaded game.
     const bool mayShow = BranchMark == 0 ? kept == LoadedCount - 1 : kept < BranchMark;
     if (mayShow && IsOnLoadedLine(kept)) ShowForward(true);
 }
