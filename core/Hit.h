@@ -30,9 +30,9 @@ bool IsFreeBeyond(int square, int direction, int steps);
 /// Rule 4, two pieces in a row: a hit needs an empty square behind its target.
 inline bool HasRoomBehind(int target, int direction) { return IsFreeBeyond(target, direction, 1); }
 
-/// The hitter takes the target's square and pushes it two squares on when the second is free,
-/// otherwise one. A ring on the square stays and so changes hands. Precondition: one of the two
-/// squares is free in a straight line, as CheckHit makes sure of.
+/// Rules 3 and 4: the hitter takes the target's square and pushes it two squares on if the second
+/// is free, otherwise one. A ring on the square stays and so changes hands. Precondition: one of
+/// the two squares is free in a straight line, as CheckHit makes sure of.
 void ApplyHit(Piece hitter, Piece target);
 
 }  // namespace brastel

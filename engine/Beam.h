@@ -6,8 +6,7 @@
 /// a CandidateSet without listing and sorting all.
 namespace brastel {
 
-/// Candidates kept at the root, and the amount by which that falls to the next ply, itself falling
-/// by one from ply to ply.
+/// The root keeps 32 candidates, ply 2 keeps 7 fewer, ply 3 another 6 fewer, and so on.
 constexpr int BeamWidth = 32;
 constexpr int BeamShrink = 7;
 

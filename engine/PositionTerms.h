@@ -29,8 +29,8 @@ struct PositionTerms {
     /// Part of every other candidate's value.
     int Shared;
     /// What a candidate's destination adds to its value, whether it is a step, a hit or a pass. The
-    /// second is for origins that answer an advanced carrier, and nowhere lower than the first. All
-    /// 0 when MustAnswer.
+    /// second is for origins that answer an advanced carrier. On every square it is at least the
+    /// first. If MustAnswer, both are 0 everywhere.
     std::array<SquareCounters, 2> Destination;
 };
 

@@ -14,9 +14,9 @@ Beam FindBeam(CandidateSet& set, int ply) {
     return KeepBeam(set, BeamWidthAt(ply));
 }
 
-/// The value of the position at a ply, given in units, as `double` arithmetic gives it. It answers
-/// a candidate that gains `gain`; once that candidate is shown to be worth no more than `least`,
-/// any lower bound will do.
+/// The value of the position at a ply, given in units, as `double` arithmetic gives it. The
+/// candidate before it gains `gain`. If `gain` minus the result cannot be above `least`, the search
+/// stops early, and the result is only a lower bound.
 double RoundedValue(int ply, int value, double gain, double least) {
     const double unrounded = static_cast<double>(value) / UnitsPerPoint;
     if (ply == TreeDepth) return unrounded;

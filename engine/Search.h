@@ -23,8 +23,8 @@ Int16 ChoosePlayable();
 /// its candidates in row 1.
 bool MustPass();
 
-/// What to play when this candidate of row 1, or 0 for none, was chosen: its own, or that of
-/// ChoosePlayable if it cannot be played.
+/// The action of candidate `chosen` of row 1. If it cannot be played, or `chosen` is 0, the action
+/// of the candidate from ChoosePlayable.
 Action PlayableAction(Int16 chosen);
 
 }  // namespace brastel

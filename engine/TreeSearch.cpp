@@ -23,9 +23,9 @@ constexpr int PointsAbove(int units) { return -PointsBelow(-units); }
 
 // ---- The move picker ----
 
-/// Returns the beam of a position one by one, the likely best first: the hash move, the best candidate, the
-/// rest of the beam. The order changes no value. Mostly the first reply causes a cut-off, so each
-/// stage is computed only when it is reached.
+/// Returns the beam of a position one by one, the likely best first: the hash move, the best
+/// candidate, the rest of the beam. The order changes no value. Mostly the first reply causes a
+/// cut-off, so each stage is computed only when it is reached.
 struct MovePicker {
     int Ply;
     /// From the transposition table; Origin 0 is none.

@@ -13,12 +13,13 @@ void ShowBackward(bool visible);
 
 // ---- Commands ----
 //
-// What begins a game, each step with those before it:
-//   SelectStartLayout, ReadGameFile   change the start tables, and nothing else of the game
-//   SetUpStartPosition                puts pieces, rings and turn where the start tables say
-//   ResetGame                         clears the status line and the win, seeds the generator
-//   NewGameCommand                    shows the board and hides both buttons
-//   OpenGame, BeginLoadedGame         sets the level to Easy; shows btn_Forward
+// How a game begins. SelectStartLayout and ReadGameFile change only the start tables. Each of the
+// following calls the one above it and adds what is listed:
+//   SetUpStartPosition   puts pieces, rings and turn where the start tables say
+//   ResetGame            clears the status line and the win, seeds the generator
+//   NewGameCommand       shows the board and hides both buttons
+//   OpenGame             sets the level to Easy
+//   BeginLoadedGame      like OpenGame it calls NewGameCommand; shows btn_Forward
 
 /// Starts the game again from its start position, both buttons hidden and no branch pending. The
 /// records stay.

@@ -34,9 +34,9 @@ std::string SquareWithContent(int square);
 /// come the pieces of before.SideToMove, then the others, the rings, and the pieces that come back
 /// from outside, with semicolons between.
 ///
-/// Who pushes, passes a ring, leaves one or passes the turn is told only of a single action: if the
-/// turn went over to the other side and no entry was taken back. Of any other two positions, as
-/// before and after a step back, it is told where pieces and rings went.
+/// If one action lies between the positions (the other side is to move, and no entry was taken
+/// back), the text also says who pushed, passed a ring, left one or passed the turn. Otherwise, as
+/// after a step back, it only says where pieces and rings went.
 std::string ChangesInWords(const Position& before, const Position& after);
 
 }  // namespace brastel

@@ -45,8 +45,9 @@ inline Codes AcceptedFor(int from) {
     return codes;
 }
 
-/// Rings go to the pieces on their own half in the start layout with as many pieces, wherever they
-/// stand now; pieces placed by hand need not be so many.
+/// The squares come from the start layout with the same number of pieces: all on which it puts the
+/// side's pieces in its own half. It does not matter where the pieces stand now. Pieces placed by
+/// hand can have a number that no layout has; then there are no candidates.
 inline Codes ExpectedPlacements() {
     const auto before = std::tuple(Pos, RedStart, BlueStart);
     const Int16 side = Pos.MoveCount == 1 ? Red : Blue;

@@ -53,9 +53,9 @@ void BeginLine();
 
 enum class Origin { Person, Computer, Record };
 
-/// Follows the entries from `first` on, the first of them of this origin and the others of the
-/// computer's. Each must lead to the same position however it is played, where all is in order and
-/// the candidates are what the rules of people accept.
+/// Checks the entries from `first` on. `origin` made entry `first`, the computer the later ones.
+/// Each entry must give the same position however it is played. The position must be consistent,
+/// and its candidates must be what the rules of people accept.
 void FollowLine(int first, Origin origin);
 
 void RequireConsistent();

@@ -254,7 +254,7 @@ TEST_F(DialogsTest, EveryWindowShowsItsTextsAndControls) {
         for (const auto* item : top->menu()->actions())
             Transcript += Line(item->objectName(), *item);
     }
-    Follow(BRASTEL_TEST_DATA "/windows.txt");
+    Follow(BRASTEL_TEST_DATA "/window_texts.txt");
 }
 
 /// The focus alone once put the name of the first file into the box, and OK overwrote that file.
