@@ -72,7 +72,6 @@ TEST_F(BoardViewTest, EverythingIsDrawnInItsPlace) {
     EXPECT_EQ(picture, expected);
     Do("Up Up Up Up Up Up Up Up");
     EXPECT_EQ(QColor(Picture().pixel(QPoint(141, 40) * ratio)), QColor(Black));
-    EXPECT_EQ(Window.windowIcon().availableSizes().size(), 7);
 }
 
 /// Run at the usual device pixel ratios.

@@ -14,6 +14,14 @@
 namespace brastel {
 namespace {
 
+/// Edge of the square source picture in which a bead is drawn, in source units.
+constexpr qreal BeadEdge = 89.0;
+
+/// Radius of the glass in source units. Its centre is the centre of the source picture. The shadow
+/// reaches further down and to the right, but stays 4.45 units away from the edge of the picture
+/// (2 px where the picture is shown at 40 px).
+constexpr qreal BeadRadius = 37.0;
+
 constexpr QPointF Centre(BeadEdge / 2, BeadEdge / 2);
 
 struct Stop {
@@ -129,12 +137,9 @@ void PaintDepth(QPainter& painter, const std::array<Stop, N>& stops) {
     painter.drawEllipse(Centre, BeadRadius, BeadRadius);
 }
 
-}  // namespace
-
+/// A bead with its soft shadow, in source units.
 void PaintBead(QPainter& painter, int side) {
-    if (!painter.isActive()) return;
     const Glass& glass = GlassOf(side);
-    painter.save();
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     PaintSpot(painter, Shadow, ShadowStops);
@@ -143,8 +148,9 @@ void PaintBead(QPainter& painter, int side) {
     PaintSpot(painter, Caustic, glass.Caustic);
     PaintSpot(painter, Halo, HaloStops);
     PaintSpot(painter, Glint, GlintStops);
-    painter.restore();
 }
+
+}  // namespace
 
 QPixmap BeadPicture(int side, int size, qreal ratio) {
     // A ratio that is not a number (NaN) fails this test, too.

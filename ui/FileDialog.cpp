@@ -1,6 +1,5 @@
 #include "ui/FileDialog.h"
 
-#include "ui/Icon.h"
 #include "ui/Layout.h"
 
 #include <QCloseEvent>
@@ -88,7 +87,6 @@ FileDialog::FileDialog(ChooserMode mode) {
     setObjectName("frmOpenSave");
     setWindowTitle(ChooserTitle(mode));
     setAccessibleName(mode == ChooserMode::Open ? "Load Game" : "Save Game");
-    setWindowIcon(ApplicationIcon());
     setWindowFlags(FixedDialogFlags);
     setPalette(GreyPalette(palette()));
     setFont(JapaneseFont(Points));

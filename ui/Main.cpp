@@ -3,6 +3,8 @@
 #include "ui/MainWindow.h"
 
 #include <QApplication>
+#include <QDir>
+#include <QIcon>
 
 #include <csignal>
 #include <cstdio>
@@ -54,6 +56,13 @@ void HandleMessage(QtMsgType type, const QMessageLogContext& context, const QStr
     if (type == QtWarningMsg) reason = line;
 }
 
+/// The pictures of desktop/icons. Each is drawn for its size.
+QIcon ApplicationIcon() {
+    QIcon icon;
+    for (const QString& name : QDir(":/icons").entryList()) icon.addFile(":/icons/" + name);
+    return icon;
+}
+
 }  // namespace
 
 int main(int /*argc*/, char* argv[]) {
@@ -71,6 +80,7 @@ int main(int /*argc*/, char* argv[]) {
     UsualHandler = usual;
     // Docks find the desktop entry and its icon by this name.
     QGuiApplication::setDesktopFileName("org.brastel.Brastel");
+    QApplication::setWindowIcon(ApplicationIcon());
     // The main window is hidden while the piece-number dialog is open.
     QApplication::setQuitOnLastWindowClosed(false);
 

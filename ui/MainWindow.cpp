@@ -8,7 +8,6 @@
 #include "ui/BoardAccessible.h"
 #include "ui/BoardView.h"
 #include "ui/Command.h"
-#include "ui/Icon.h"
 #include "ui/KeyboardInput.h"
 #include "ui/Layout.h"
 #include "ui/Menus.h"
@@ -109,7 +108,6 @@ MainWindow::~MainWindow() {
 void MainWindow::BuildWindow() {
     setObjectName("frm_Tamber");
     setWindowTitle("Brastel");
-    setWindowIcon(ApplicationIcon());
     setWindowFlags(Qt::Window | Qt::MSWindowsFixedSizeDialogHint | Qt::CustomizeWindowHint |
                    Qt::WindowTitleHint | Qt::WindowSystemMenuHint | Qt::WindowMinimizeButtonHint |
                    Qt::WindowCloseButtonHint);

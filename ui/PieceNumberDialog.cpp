@@ -2,7 +2,6 @@
 
 #include "core/StartPosition.h"
 #include "ui/EnterButton.h"
-#include "ui/Icon.h"
 #include "ui/Layout.h"
 
 #include <QLabel>
@@ -50,7 +49,6 @@ PieceNumberDialog::PieceNumberDialog() {
     setObjectName("frm_GameSize");
     setWindowTitle("About Orvel Geme");
     setAccessibleName("Change Piece Number");
-    setWindowIcon(ApplicationIcon());
     setWindowFlags(FixedDialogFlags);
     QFont bold = font();
     bold.setBold(true);

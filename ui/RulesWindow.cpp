@@ -1,7 +1,6 @@
 #include "ui/RulesWindow.h"
 
 #include "ui/EnterButton.h"
-#include "ui/Icon.h"
 #include "ui/Layout.h"
 
 #include <QPainter>
@@ -121,7 +120,6 @@ QString ShownText() {
 RulesWindow::RulesWindow() {
     setObjectName("frm_Rules");
     setWindowTitle("Orvel Game Rules");
-    setWindowIcon(ApplicationIcon());
     setWindowFlags(FixedDialogFlags);
     FixInnerArea(*this, InnerWidth, InnerHeight);
     auto* button = new EnterButton("OK", this);
