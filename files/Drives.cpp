@@ -2,9 +2,8 @@
 
 #include <algorithm>
 #include <array>
-#include <fstream>
-#include <iterator>
-#include <sstream>
+#include <cstdio>
+#include <mntent.h>
 
 namespace brastel {
 
@@ -37,52 +36,17 @@ bool IsUserVolume(std::string_view place, std::string_view type, std::string_vie
     return isDisk || isRemote || type.starts_with("fuse.");
 }
 
-bool IsOctal(std::string_view digits) {
-    return digits.size() == 3 && digits.find_first_not_of("01234567") == std::string_view::npos;
-}
-
-/// In the table, spaces and backslashes are a backslash and three octal digits.
-std::string Unescaped(const std::string& text) {
-    std::string plain;
-    for (std::size_t i = 0; i < text.size(); ++i) {
-        const bool isEscape = text[i] == '\\' && IsOctal(std::string_view(text).substr(i + 1, 3));
-        plain +=
-            isEscape ? static_cast<char>(std::stoi(text.substr(i + 1, 3), nullptr, 8)) : text[i];
-        if (isEscape) i += 3;
-    }
-    return plain;
-}
-
-struct Mount {
-    std::string Place;
-    std::string Type;
-    std::string Device;
-};
-
-/// A line has these fields: number, parent, device number, root, place, options, optional fields up
-/// to "-", type, device, further options.
-Mount ParseMount(const std::string& line) {
-    std::istringstream fields(line);
-    Mount mount;
-    std::string skipped;
-    fields >> skipped >> skipped >> skipped >> skipped >> mount.Place;
-    while (fields >> skipped && skipped != "-") {
-    }
-    fields >> mount.Type >> mount.Device;
-    mount.Place = Unescaped(mount.Place);
-    return mount;
-}
-
 }  // namespace
 
-std::vector<std::string> DrivesIn(std::string_view mountTable) {
+std::vector<std::string> DrivesIn(const char* tablePath) {
     std::vector<std::string> drives;
-    std::istringstream lines{std::string(mountTable)};
-    for (std::string line; std::getline(lines, line);) {
-        const Mount mount = ParseMount(line);
-        const bool isChosen =
-            mount.Place != Root && IsUserVolume(mount.Place, mount.Type, mount.Device);
-        if (isChosen) drives.push_back(mount.Place);
+    if (std::FILE* const table = setmntent(tablePath, "r")) {
+        while (const mntent* mount = getmntent(table)) {
+            const bool isChosen = mount->mnt_dir != Root &&
+                                  IsUserVolume(mount->mnt_dir, mount->mnt_type, mount->mnt_fsname);
+            if (isChosen) drives.emplace_back(mount->mnt_dir);
+        }
+        endmntent(table);
     }
     std::ranges::sort(drives);
     drives.erase(std::unique(drives.begin(), drives.end()), drives.end());
@@ -90,10 +54,7 @@ std::vector<std::string> DrivesIn(std::string_view mountTable) {
     return drives;
 }
 
-std::vector<std::string> ListDrives() {
-    std::ifstream table("/proc/self/mountinfo");
-    return DrivesIn(std::string(std::istreambuf_iterator<char>(table), {}));
-}
+std::vector<std::string> ListDrives() { return DrivesIn("/proc/self/mounts"); }
 
 std::string DriveOf(const std::vector<std::string>& drives, std::string_view folder) {
     std::string best(Root);

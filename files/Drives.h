@@ -8,12 +8,12 @@
 /// The name of a drive is its mount point.
 namespace brastel {
 
-/// The drives in a mount table of the kernel (mountinfo): the root first, then sorted by name.
-/// Volumes of the system are left out. Only the text is read: a request to the mount itself could
-/// wait forever for a network that does not answer.
-std::vector<std::string> DrivesIn(std::string_view mountTable);
+/// The drives in a mount table, a file in the form of fstab: the root first, then sorted by name.
+/// Volumes of the system are left out. Only the root if the table cannot be read. Only the table is
+/// read: a request to the mount itself could wait forever for a network that does not answer.
+std::vector<std::string> DrivesIn(const char* tablePath);
 
-/// The drives that are mounted now. Only the root if the system has no such table.
+/// The drives that are mounted now.
 std::vector<std::string> ListDrives();
 
 /// The drive of a folder: the longest mount point above it.

@@ -67,7 +67,7 @@ void MakeEntry() {
 void MakeDisk() {
     std::error_code ignored;
     fs::create_directories("/proc/self", ignored);
-    WriteEntry("/proc/self/mountinfo", Text());
+    WriteEntry("/proc/self/mounts", Text());
     fs::create_symlink(Text(), "/proc/self/exe", ignored);
     for (int n = Byte() % (MostEntries + 1); n > 0; --n) MakeEntry();
     fs::current_path(Text(), ignored);
