@@ -1,7 +1,9 @@
 #pragma once
 
+#include "engine/Strengths.h"
 #include "tools/ExitStatus.h"
 #include "tools/Printable.h"
+#include "tools/ReadNumber.h"
 
 #include <CLI/CLI.hpp>
 #include <algorithm>
@@ -10,10 +12,89 @@
 #include <iostream>
 #include <optional>
 #include <string>
+#include <strings.h>
+#include <utility>
 #include <vector>
 
-/// Reads the arguments of the programs brastel-match and brastel-record.
+/// Reads the arguments of the programs beside the game.
 namespace brastel {
+
+// ---- Kinds of values, for CLI::Option::transform ----
+
+/// A whole number, in decimal. Without this check, CLI11 also reads other notations, and not the
+/// same ones in each version.
+inline CLI::Validator IsNumber(std::int64_t least, std::int64_t most) {
+    const auto read = [=](std::string& text) -> std::string {
+        const auto number = ReadNumber(text, least, most);
+        if (!number) {
+            return "\"" + text + "\" is not a whole number from " + std::to_string(least) + " to " +
+                   std::to_string(most);
+        }
+        text = std::to_string(*number);
+        return {};
+    };
+    return {read, ""};
+}
+
+/// The number or the name of a strength, in upper or lower case. The name becomes the number.
+inline CLI::Validator IsStrength() {
+    const auto read = [](std::string& text) -> std::string {
+        for (int level = 1; level <= MaxPly; ++level) {
+            const std::string number = std::to_string(level);
+            const bool isName = strcasecmp(text.c_str(), StrengthName(level).c_str()) == 0;
+            if (text != number && !isName) continue;
+            text = number;
+            return {};
+        }
+        return "\"" + text + "\" is not a strength: use 1 to 11 or a name from Easy to God";
+    };
+    return {read, ""};
+}
+
+inline CLI::Validator IsPath() {
+    return {[](std::string& text) { return text.empty() ? "the path is empty" : std::string(); },
+            ""};
+}
+
+// ---- The help ----
+
+/// What the help prints in front of the description, for example "-o, --output PATH".
+inline std::string OptionForm(const CLI::Option& option) {
+    std::string form;
+    for (const std::string& name : option.get_snames()) form += "-" + name + ", ";
+    for (const std::string& name : option.get_lnames()) form += "--" + name + ", ";
+    form.resize(form.size() - std::min<std::size_t>(form.size(), 2));
+    if (option.get_positional()) form = option.get_name(true);
+    const bool hasValue = option.get_items_expected_max() > 0;
+    return hasValue && !option.get_type_name().empty() ? form + ' ' + option.get_type_name() : form;
+}
+
+/// The layout of CLI11's own help differs between its versions.
+inline std::string HelpText(const CLI::App& app, const std::string& defaultGroup) {
+    std::size_t width = 0;
+    std::string usage = "Usage: " + app.get_name() + " [OPTION...]";
+    for (const CLI::Option* option : app.get_options()) {
+        width = std::max(width, OptionForm(*option).size());
+        if (!option->get_positional()) continue;
+        const std::string form =
+            OptionForm(*option) + (option->get_items_expected_max() > 1 ? "..." : "");
+        usage += option->get_required() ? ' ' + form : " [" + form + ']';
+    }
+    std::string text = app.get_description() + '\n' + usage + '\n';
+    for (const std::string& group : app.get_groups()) {
+        text += '\n' + (group == defaultGroup ? "Options" : group) + ":\n";
+        for (const CLI::Option* option : app.get_options()) {
+            if (option->get_group() != group) continue;
+            std::string form = OptionForm(*option);
+            form.resize(width + 2, ' ');
+            text += "  " + form + option->get_description() + '\n';
+        }
+    }
+    text += '\n' + app.get_footer();
+    return text.ends_with('\n') ? text : text + '\n';
+}
+
+// ---- Arguments ----
 
 /// CLI11 reads an argument [a,b] as a list of two files. With ./ before it, it is one file name.
 inline std::string WithoutList(std::string argument) {
@@ -30,6 +111,8 @@ inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* co
     std::ranges::transform(arguments, arguments.begin(), WithoutList);
     // CLI11 expects the arguments in reverse order.
     std::ranges::reverse(arguments);
+    app.formatter_fn(
+        [&app](auto&&...) { return HelpText(app, app.option_defaults()->get_group()); });
     try {
         app.parse(arguments);
         return std::nullopt;

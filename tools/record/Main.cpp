@@ -56,8 +56,6 @@ std::string CheckAt(const std::string& text) {
            " nor \"end\"";
 }
 
-std::string CheckOutput(const std::string& path) { return path.empty() ? "names no file" : ""; }
-
 void Declare(CLI::App& app, Options& options) {
     app.add_option("FILE", options.Files, "record files to read")->required()->type_name("");
     auto* moves = app.add_flag("--moves", options.Moves, "print the game entry by entry in words");
@@ -66,7 +64,7 @@ void Declare(CLI::App& app, Options& options) {
     at->type_name("N")->check(CheckAt)->excludes(moves);
     app.add_flag("--svg", options.Svg, "draw an SVG picture instead of text")->needs(at);
     auto* output = app.add_option("-o,--output", options.Output, "write to this new file");
-    output->type_name("PATH")->check(CheckOutput);
+    output->type_name("PATH")->transform(IsPath());
     app.add_flag("--force", options.Force, "overwrite an existing output file")->needs(output);
     app.set_version_flag("--version", "brastel-record " BRASTEL_VERSION, "show the version");
     app.set_help_flag("-h,--help", "show this text");
