@@ -85,6 +85,14 @@ for signal in INT TERM HUP; do
     kill -$signal $!
     wait $! || status=$?
     saved=$(find "stopped$signal" -type f | wc -l)
-    [[ $status = 130 && $(<err) = *"after $saved of 100000 games"* && $(<out) = *"| games "*" $saved |"* ]] ||
+    [[ $status = $((128 + $(kill -l $signal))) && $(<err) = *"after $saved of 100000 games"* && $(<out) = *"| games "*" $saved |"* ]] ||
         fail "status $status after SIG$signal, $saved games are saved, but $(cat out err)"
 done
+# Ctrl+C ends a shell loop, because the shell sees a program that died by SIGINT.
+set -m
+bash -c 'for n in 1 2; do "$0" --red 1 --blue 1 --games 100000 --save loop$n; done' "$Program" >out 2>err &
+wait_for "a game of the loop" eval 'compgen -G "loop1/*" >/dev/null'
+kill -INT -- -$!
+status=0
+wait $! || status=$?
+[ $status = 130 ] && [ ! -e loop2 ] || fail "the loop goes on: status $status"

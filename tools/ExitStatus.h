@@ -9,8 +9,7 @@ enum ExitStatus {
     FoundFault = 1,
     /// Wrong arguments, or a path or standard output that cannot be read or written.
     CannotDo = 2,
-    SystemFailed = 3,
-    WasInterrupted = 130
+    SystemFailed = 3
 };
 
 }  // namespace brastel

@@ -148,7 +148,10 @@ int StatusOf(MatchEnd end, const std::vector<MatchGame>& games, const MatchTerms
     const std::string played = "after " + std::to_string(games.size()) + " of " +
                                std::to_string(run.Games) + " games of " +
                                StrengthName(terms.First) + " against " + StrengthName(terms.Second);
-    if (end == MatchEnd::Stopped) return ReportError("interrupted " + played, WasInterrupted);
+    if (end == MatchEnd::Stopped) {
+        ReportError("interrupted " + played, SystemFailed);
+        EndByInterrupt();
+    }
     return ReportError("a worker process failed " + played, SystemFailed);
 }
 

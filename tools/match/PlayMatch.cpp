@@ -49,7 +49,7 @@ void PlayGamesOf(const MatchTerms& terms, const MatchRun& run, int worker, int o
 /// Interrupts this process when its parent ends for any reason.
 void InterruptAtEndOf(pid_t parent) {
     prctl(PR_SET_PDEATHSIG, SIGTERM);
-    if (getppid() != parent) Interrupted = 1;
+    if (getppid() != parent) Interrupted = SIGTERM;
 }
 
 class Workers {

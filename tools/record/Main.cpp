@@ -178,7 +178,7 @@ int Run(const Options& options) {
     if (Interrupted == 0 || done == options.Files.size()) return status;
     ReportError("interrupted after " + std::to_string(done) + " of " +
                 std::to_string(options.Files.size()) + " files");
-    return WasInterrupted;
+    EndByInterrupt();
 }
 
 int Main(int count, char** texts) {
