@@ -11,34 +11,19 @@ Record=$(realpath "$2")
 
 # ---- Bad arguments and paths: nothing is played ----
 
-touch file table
-ln table other
-join="--ladder --join file"
+touch file
 for bad in "--red 12" "--blue nobody" "--blue" "--pieces 7" "--pieces 0" "--games 0" "--games 1.5" \
-    "--seed -1" "--random-moves 11" "--jobs 0" "--red 1 --red 2" "--ladder --red 3" "--from 2" \
-    "--ladder --alternate" "--table t" "--chart c" "--join file" "--ladder --from 5 --to 5" \
-    "--unknown" "file" "--games 100001" "$join --from 2" "$join --to 4" "$join --games 9" \
-    "$join --pieces 8" "$join --seed 2" "$join --random-moves 1" "$join --jobs 2" "$join --save new"; do
+    "--seed -1" "--random-moves 11" "--jobs 0" "--red 1 --red 2" \
+    "--unknown" "file" "--games 100001"; do
     last=${bad##*--}
     expect 2 '' "*${last%% *}*" $bad
 done
 expect 2 '' '*--save*' --save ''
-expect 2 '' '*flag override*' --ladder=false
+expect 2 '' '*flag override*' --alternate=false
 expect 2 '' '*file: Not a directory*' --save file
+expect 2 '' '*no\\x1b\\xc2\\x9bne/t: No such file or directory*' --save $'no\e\xc2\x9bne/t'
 expect 2 '' '*none/games: No such file or directory*' --save none/games
-expect 2 '' '*no\\x1b\\xc2\\x9bne/t: No such file or directory*' --ladder --table $'no\e\xc2\x9bne/t'
-expect 2 '' '*none/c: No such file or directory*' --ladder --chart none/c
-expect 2 '' '*cannot read none*' --ladder --join none
-expect 2 '' '*cannot read .*' --ladder --join .
-expect 2 '' '*file cannot be joined: there is no ladder in it*' --ladder --join file
-expect 2 '' '*cannot read ./\[file,table\]*' --ladder --join "[file,table]"
-expect 2 '' '*cannot read ./\[file,table\]*' --ladder --join="[file,table]"
-expect 2 '' '*cannot read /dev/zero: File too large*' --ladder --join /dev/zero
-expect 2 '' '*name the same file*' --ladder --table new --chart ./new
-expect 2 '' '*name the same file*' --ladder --table table --chart other
-expect 2 '' '*none/c*' --ladder --table new --chart none/c --save games
-expect 2 '' '*Not a directory*' --ladder --table new --save file
-[ "$(echo *)" = "err file other out run table" ] || fail "left behind: $(echo *)"
+[ "$(echo *)" = "err file out run" ] || fail "left behind: $(echo *)"
 
 # ---- A match; there is no progress where nobody looks ----
 
@@ -66,15 +51,6 @@ expect_full --help
 # The sanitizers need pipes themselves.
 no_pipe='exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-; ulimit -n 4; exec "$0" --red 1 --blue 1 --games 2'
 grep -q __ubsan "$Program" || Program=bash expect 3 '*' '*' -c "$no_pipe" "$Program"
-
-# ---- The ladder ----
-
-expect 0 '*' '' --ladder --to 3 --games 4 --table table.md --chart chart.svg
-[ "$(grep -c '^| *[1-3] |' table.md) $(tail -n 1 chart.svg)" = '3 </svg>' ] || fail "$(cat ./*.*)"
-expect 0 "$(<table.md)" '' --ladder --join table.md
-expect_too_large "brastel-match: cannot write table.md" --ladder --to 2 --games 2 --table table.md
-cmp out table.md || fail "an old table is lost, or a ladder is not read as it was written"
-"$Program" --ladder --join table.md --table /dev/stdout | cmp - table.md || fail "no table in a pipe"
 
 # ---- Interrupts: the results so far ----
 

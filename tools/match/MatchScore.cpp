@@ -76,7 +76,7 @@ MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired) {
     score.DifferentGames = static_cast<int>(different.size());
     score.First = TimeOf(games, true);
     score.Second = TimeOf(games, false);
-    score.Difference = EloOf(MeanOf(score), ResultsOf(games, paired));
+    if (!games.empty()) score.Difference = EloOf(MeanOf(score), ResultsOf(games, paired));
     return score;
 }
 

@@ -1,13 +1,38 @@
 #include "tools/match/MatchTable.h"
 
 #include "engine/Strengths.h"
-#include "tools/match/TableText.h"
 
+#include <algorithm>
 #include <cinttypes>
+#include <cstdarg>
+#include <cstdio>
+#include <cstdlib>
 
 namespace brastel {
 
 namespace {
+
+/// Like printf, at most 255 bytes.
+[[gnu::format(printf, 1, 2)]] std::string Format(const char* format, ...) {
+    char text[256];
+    va_list values;
+    va_start(values, format);
+    std::vsnprintf(text, sizeof text, format, values);
+    va_end(values);
+    return text;
+}
+
+/// Adds spaces on the left up to this width in characters, or on the right if the width is
+/// negative. Longer text does not change.
+std::string Padded(const std::string& text, int width) {
+    const auto begins = [](char byte) { return (byte & 0xC0) != 0x80; };
+    const auto characters = static_cast<int>(std::ranges::count_if(text, begins));
+    const std::string spaces(static_cast<std::size_t>(std::max(0, std::abs(width) - characters)),
+                             ' ');
+    return width < 0 ? text + spaces : spaces + text;
+}
+
+std::string Milliseconds(double seconds) { return Format("%.3f", seconds * 1000); }
 
 constexpr int LabelWidth = -25;
 constexpr int ValueWidth = 20;
@@ -55,6 +80,20 @@ std::string TableOfGames(const MatchScore& score) {
 }
 
 }  // namespace
+
+std::string EloText(const Elo& elo) {
+    switch (elo.Kind) {
+        case Certainty::Estimate:
+            return Format("%+.0f ± %.0f", elo.Points, elo.Error);
+        case Certainty::AtLeast:
+            return Format("> %.0f", elo.Points);
+        case Certainty::AtMost:
+            return Format("< %.0f", elo.Points);
+        case Certainty::Unknown:
+            break;
+    }
+    return "unknown";
+}
 
 std::string TermsText(const MatchTerms& terms) {
     return Format("%d pieces a side, seed %" PRIu64 ", %d random moves of each side first",

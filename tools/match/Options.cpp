@@ -20,8 +20,6 @@ constexpr const char* Footer = R"(A STRENGTH is a number from 1 to 11 or a name 
 Examples:
   brastel-match --red 5 --blue 3 --alternate --games 200 --jobs 2
   brastel-match --red Expert --blue Master --pieces 12 --games 10 --save games
-  brastel-match --ladder --games 200 --table ladder.md --chart ladder.svg
-  brastel-match --ladder --join low.md high.md --chart ladder.svg
 
 Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written, 3 the
 system failed, 130 interrupted. More in brastel-match(6).)";
@@ -58,44 +56,18 @@ private:
 };
 
 void AddSingleMatch(CLI::App& app, MatchTerms& terms) {
-    OptionGroup group(app, "One match");
+    OptionGroup group(app, "Match");
     group.Add("--red", terms.First, "STRENGTH", "strength of Red (5)")->transform(IsStrength());
     group.Add("--blue", terms.Second, "STRENGTH", "strength of Blue (3)")->transform(IsStrength());
     group.AddFlag("--alternate", terms.Alternates,
                   "swap colours in every other game; play each opening twice");
 }
 
-/// --red, --blue and --alternate are for a single match only: a ladder sets them itself.
-void AddLadder(CLI::App& app, Options& options) {
-    OptionGroup group(app, "All strengths");
-    auto* const ladder =
-        group.AddFlag("--ladder", options.Ladder,
-                      "play each strength against the one below, colours alternating");
-    for (const char* name : {"--red", "--blue", "--alternate"}) {
-        ladder->excludes(app.get_option(name));
-    }
-    const std::array<CLI::Option*, 5> parts{
-        group.Add("--from", options.From, "STRENGTH", "lowest strength (1)")
-            ->transform(IsStrength()),
-        group.Add("--to", options.To, "STRENGTH", "highest strength (11)")->transform(IsStrength()),
-        group
-            .Add("--table", options.TableFile, "FILE",
-                 "write the ladder here, not to standard output")
-            ->transform(IsPath()),
-        group.Add("--chart", options.ChartFile, "FILE", "draw the ladder as an SVG picture")
-            ->transform(IsPath()),
-        group
-            .Add("--join", options.Joined, "FILE...", "play no games, join ladders written before")
-            ->transform(IsPath())};
-    for (CLI::Option* part : parts) part->needs(ladder);
-}
-
 void AddGames(CLI::App& app, Options& options) {
     OptionGroup group(app, "Games");
     MatchTerms& terms = options.Terms;
     MatchRun& run = options.Run;
-    group.Add("--games", run.Games, "N", "games to play, for a ladder in each match (100)")
-        ->transform(IsNumber(1, MaxGames));
+    group.Add("--games", run.Games, "N", "games to play (100)")->transform(IsNumber(1, MaxGames));
     group.Add("--pieces", terms.Pieces, "N", "pieces a side: 2, 4, 6, 8, 10 or 12 (8)")
         ->transform(IsPieceCount);
     group.Add("--seed", terms.Seed, "N", "seed of the random numbers; it decides the games (1)")
@@ -123,18 +95,8 @@ std::optional<int> ReadOptions(int count, const char* const* texts, Options& opt
     CLI::App app(Description, "brastel-match");
     app.option_defaults()->disable_flag_override();
     AddSingleMatch(app, options.Terms);
-    AddLadder(app, options);
     AddGames(app, options);
     AddHelp(app);
-    for (const char* name : {"--from", "--to", "--games", "--pieces", "--seed", "--random-moves",
-                             "--jobs", "--save"}) {
-        app.get_option("--join")->excludes(app.get_option(name));
-    }
-    app.callback([&options] {
-        if (options.Ladder && options.From >= options.To) {
-            throw CLI::ValidationError("--from", "must be a strength below --to");
-        }
-    });
     return ReadArguments(app, count, texts);
 }
 
