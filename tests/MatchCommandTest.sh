@@ -19,7 +19,7 @@ for bad in "--red 12" "--blue nobody" "--blue" "--pieces 7" "--pieces 0" "--game
     expect 2 '' "*${last%% *}*" $bad
 done
 expect 2 '' '*--save*' --save ''
-expect 2 '' '*flag override*' --alternate=false
+expect 2 '' '*flag override*' --no-alternate=no
 expect 2 '' '*file: Not a directory*' --save file
 expect 2 '' '*no\\x1b\\xc2\\x9bne/t: No such file or directory*' --save $'no\e\xc2\x9bne/t'
 expect 2 '' '*none/games: No such file or directory*' --save none/games
@@ -27,17 +27,17 @@ expect 2 '' '*none/games: No such file or directory*' --save none/games
 
 # ---- A match; there is no progress where nobody looks ----
 
-expect 0 '*| games *| *6 |*' '' --red easy --blue MEDIUM --games 6 --alternate --save games --jobs 2
+expect 0 '*| games *| *6 |*' '' --red easy --blue MEDIUM --games 6 --save games --jobs 2
 [ "$(cd games && echo *)" = "0001-Easy-Medium.txt 0002-Medium-Easy.txt 0003-Easy-Medium.txt \
 0004-Medium-Easy.txt 0005-Easy-Medium.txt 0006-Medium-Easy.txt" ] || fail "$(ls games)"
-expect 2 '' '*0001-Easy-Medium.txt exists*' --red 1 --blue 2 --games 6 --alternate --save games
+expect 2 '' '*0001-Easy-Medium.txt exists*' --red 1 --blue 2 --games 6 --save games
 # A game and its twin with the other colours share their two rings and two moves of each side.
-"$Program" --red 2 --blue 3 --games 6 --alternate --save games2 --seed 2 >/dev/null
+"$Program" --red 2 --blue 3 --games 6 --save games2 --seed 2 >/dev/null
 openings=$(for game in games*/*; do sed -n 21,26p "$game" | xargs; done)
 [ "$(uniq -c <<<"$openings" | grep -c ' 2 ') $(sort -u <<<"$openings" | wc -l)" = '6 6' ] ||
     fail "$openings"
 # Difficult mostly beats Easy, whichever colour it has.
-for how in '' --alternate; do
+for how in '' --no-alternate; do
     "$Program" --red 3 --blue 1 --games 60 $how --jobs 1 --save one$how >out
     "$Program" --red 3 --blue 1 --games 60 $how --jobs 4 --save four$how >/dev/null
     diff -r one$how four$how || fail "the games depend on the number of processes"

@@ -18,7 +18,7 @@ struct MatchTerms {
     int Pieces = 8;
     std::uint64_t Seed = 1;
     /// The colours alternate, and games 2k - 1 and 2k have the same opening.
-    bool Alternates = false;
+    bool Alternates = true;
     /// Random moves of each side at the beginning.
     int RandomMoves = 2;
 };

@@ -104,9 +104,9 @@ std::string MatchTable(const MatchTerms& terms, const MatchScore& score) {
     const bool areSame = terms.First == terms.Second;
     const std::string first = StrengthName(terms.First) + (areSame ? " (first)" : "");
     const std::string second = StrengthName(terms.Second) + (areSame ? " (second)" : "");
-    return first + " against " + second + (terms.Alternates ? ", colours alternating, " : ", ") +
-           TermsText(terms) + "\n\n" + TableOfStrengths(first, second, score) + '\n' +
-           TableOfGames(score);
+    return first + " against " + second +
+           (terms.Alternates ? ", colours alternating, " : ", colours fixed, ") + TermsText(terms) +
+           "\n\n" + TableOfStrengths(first, second, score) + '\n' + TableOfGames(score);
 }
 
 }  // namespace brastel

@@ -18,7 +18,7 @@ constexpr const char* Description =
 constexpr const char* Footer = R"(A STRENGTH is a number from 1 to 11 or a name from Easy to God.
 
 Examples:
-  brastel-match --red 5 --blue 3 --alternate --games 200 --jobs 2
+  brastel-match --red 5 --blue 3 --games 200 --jobs 2
   brastel-match --red Expert --blue Master --pieces 12 --games 10 --save games
 
 Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written, 3 the
@@ -57,10 +57,12 @@ private:
 
 void AddSingleMatch(CLI::App& app, MatchTerms& terms) {
     OptionGroup group(app, "Match");
-    group.Add("--red", terms.First, "STRENGTH", "strength of Red (5)")->transform(IsStrength());
-    group.Add("--blue", terms.Second, "STRENGTH", "strength of Blue (3)")->transform(IsStrength());
-    group.AddFlag("--alternate", terms.Alternates,
-                  "swap colours in every other game; play each opening twice");
+    group.Add("--red", terms.First, "STRENGTH", "strength of Red in the first game (5)")
+        ->transform(IsStrength());
+    group.Add("--blue", terms.Second, "STRENGTH", "strength of Blue in the first game (3)")
+        ->transform(IsStrength());
+    group.AddFlag("--no-alternate{false}", terms.Alternates,
+                  "the same colours in every game, each game with its own opening");
 }
 
 void AddGames(CLI::App& app, Options& options) {
