@@ -45,6 +45,7 @@ TEST(MatchTest, ScoreIsSeenFromTheFirstStrength) {
     EXPECT_DOUBLE_EQ(score.MeanLength, 38);
     EXPECT_EQ(EloText(score.Difference), EloFrom({.5, .5, .75})) << "a result for each pair";
     EXPECT_EQ(EloText(ScoreOf(games, false).Difference), EloFrom({1, 0, 0, 1, .5, 1}));
+    EXPECT_EQ(EloText(ScoreOf({games.begin(), games.begin() + 4}, true).Difference), "unknown");
     EXPECT_NEAR(score.First.WorstSeconds, .199, 1e-6);
     EXPECT_NEAR(score.Second.WorstSeconds, .200, 1e-6);
 }

@@ -9,6 +9,9 @@ namespace {
 
 // ---- Results ----
 
+/// With fewer games, even a clean sweep would often be luck.
+constexpr int LeastGames = 5;
+
 /// The score of the first strength.
 double ResultOf(const MatchGame& game) {
     if (game.Winner == Empty) return 0.5;
@@ -76,7 +79,8 @@ MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired) {
     score.DifferentGames = static_cast<int>(different.size());
     score.First = TimeOf(games, true);
     score.Second = TimeOf(games, false);
-    if (!games.empty()) score.Difference = EloOf(MeanOf(score), ResultsOf(games, paired));
+    if (score.Games >= LeastGames)
+        score.Difference = EloOf(MeanOf(score), ResultsOf(games, paired));
     return score;
 }
 

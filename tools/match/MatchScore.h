@@ -27,6 +27,7 @@ struct MatchScore {
     double MeanLength = 0;
     ThinkingTime First;
     ThinkingTime Second;
+    /// Unknown with fewer than five games.
     Elo Difference;
 };
 
