@@ -25,39 +25,45 @@ TEST(MatchTest, EloDifferenceIsTheOneWorkedOutByHand) {
     EXPECT_EQ(EloFrom(std::vector<double>(10, 0)), "< -183");
 }
 
-MatchGame Game(int number, Int16 winner, Int16 entries, std::uint64_t print) {
-    MatchGame game{number, number % 2 == 1, winner, entries, print, {}, 0};
-    game.Seconds.Fill(-1);
-    for (int k = 3; k <= entries; ++k) game.Seconds[k] = static_cast<float>(k) / 1000;
-    return game;
+/// Both sides take a millisecond for each move; the worst move takes the number of the game.
+MatchGame Game(int number, Int16 winner, Int16 entries, std::uint64_t hash) {
+    const std::int64_t red = (entries - 5) / 2;
+    const std::int64_t blue = (entries - 6) / 2;
+    return {number, winner, entries, hash, {red * 1000000, number}, {blue * 1000000, number}, 0};
 }
 
-/// It has the odd entries of the odd games and the even ones of the others.
 TEST(MatchTest, ScoreIsSeenFromTheFirstStrength) {
-    const std::vector<MatchGame> games{Game(1, Red, 7, 1),     Game(2, Red, 7, 1),
-                                       Game(3, Blue, 4, 2),    Game(4, Blue, 4, 3),
-                                       Game(5, Empty, 200, 4), Game(6, Blue, 6, 5)};
-    const MatchScore score = ScoreOf(games, true);
-    const std::array<int, 9> counts{score.Games,      score.Wins,        score.Draws,
-                                    score.Losses,     score.WinsAsRed,   score.LossesAsRed,
-                                    WinsByRed(score), WinsByBlue(score), score.DifferentGames};
-    EXPECT_EQ(counts, (std::array<int, 9>{6, 3, 1, 2, 1, 1, 2, 3, 5}));
-    EXPECT_DOUBLE_EQ(score.MeanLength, 38);
+    MatchGames games;
+    for (const MatchGame& game :
+         {Game(1, Red, 7, 1), Game(2, Red, 7, 1), Game(3, Blue, 8, 2), Game(4, Blue, 8, 3),
+          Game(5, Empty, 200, 4), Game(6, Blue, 9, 5)}) {
+        games.emplace(game.Number, game);
+    }
+    MatchTerms terms;
+    const MatchScore score = ScoreOf(terms, games);
+    const std::array<int, 7> counts{score.Games,         score.Wins,      score.Draws,
+                                    score.Losses,        score.WinsAsRed, score.LossesAsRed,
+                                    score.DifferentGames};
+    EXPECT_EQ(counts, (std::array<int, 7>{6, 3, 1, 2, 1, 1, 5}));
+    EXPECT_NEAR(score.MeanLength, 239 / 6.0, 1e-9);
     EXPECT_EQ(EloText(score.Difference), EloFrom({.5, .5, .75})) << "a result for each pair";
-    EXPECT_EQ(EloText(ScoreOf(games, false).Difference), EloFrom({1, 0, 0, 1, .5, 1}));
-    EXPECT_EQ(EloText(ScoreOf({games.begin(), games.begin() + 4}, true).Difference), "unknown");
-    EXPECT_NEAR(score.First.WorstSeconds, .199, 1e-6);
-    EXPECT_NEAR(score.Second.WorstSeconds, .200, 1e-6);
+    EXPECT_DOUBLE_EQ(score.First.Mean, 1) << "of the moves after the opening";
+    EXPECT_DOUBLE_EQ(score.Second.Mean, 1);
+    terms.Alternates = false;
+    EXPECT_EQ(EloText(ScoreOf(terms, games).Difference), EloFrom({1, 1, 0, 0, .5, 0}));
+    EXPECT_EQ(EloText(ScoreOf(terms, {games.begin(), games.find(5)}).Difference), "unknown");
 }
 
 TEST(MatchTest, MatchEndsWhereAGameCannotBeSaved) {
     const FileDesk desk;
-    std::vector<MatchGame> games;
     const MatchTerms terms{.First = 1, .Second = 1};
     WriteBytes(SavedGameName(terms, 4), "mine");
-    EXPECT_EQ(PlayMatch(terms, {9, 1, desk.Folder}, games, [](const auto&) {}), MatchEnd::NotSaved);
-    EXPECT_EQ(games.size(), 4U);
-    EXPECT_EQ(games.back().SaveError, EEXIST);
+    std::vector<int> errors;
+    PlayMatch(terms, {.Folder = desk.Folder}, {1, 4, 5}, [&](const MatchGame* game) {
+        if (game != nullptr) errors.push_back(game->SaveError);
+        return true;
+    });
+    EXPECT_EQ(errors, (std::vector<int>{0, EEXIST}));
     EXPECT_EQ(BytesOf(SavedGameName(terms, 4)), "mine");
 }
 

@@ -69,8 +69,9 @@ inline std::string OptionForm(const CLI::Option& option) {
     return hasValue && !option.get_type_name().empty() ? form + ' ' + option.get_type_name() : form;
 }
 
-/// The layout of CLI11's own help differs between its versions.
-inline std::string HelpText(const CLI::App& app, const std::string& defaultGroup) {
+/// The layout of CLI11's own help differs between its versions, and so does the name of the group
+/// of options without one: Options or OPTIONS.
+inline std::string HelpText(const CLI::App& app) {
     std::size_t width = 0;
     std::string usage = "Usage: " + app.get_name() + " [OPTION...]";
     for (const CLI::Option* option : app.get_options()) {
@@ -82,7 +83,7 @@ inline std::string HelpText(const CLI::App& app, const std::string& defaultGroup
     }
     std::string text = app.get_description() + '\n' + usage + '\n';
     for (const std::string& group : app.get_groups()) {
-        text += '\n' + (group == defaultGroup ? "Options" : group) + ":\n";
+        text += '\n' + (strcasecmp(group.c_str(), "options") == 0 ? "Options" : group) + ":\n";
         for (const CLI::Option* option : app.get_options()) {
             if (option->get_group() != group) continue;
             std::string form = OptionForm(*option);
@@ -111,8 +112,7 @@ inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* co
     std::ranges::transform(arguments, arguments.begin(), WithoutList);
     // CLI11 expects the arguments in reverse order.
     std::ranges::reverse(arguments);
-    app.formatter_fn(
-        [&app](auto&&...) { return HelpText(app, app.option_defaults()->get_group()); });
+    app.formatter_fn([&app](auto&&...) { return HelpText(app); });
     try {
         app.parse(arguments);
         return std::nullopt;

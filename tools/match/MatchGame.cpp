@@ -7,6 +7,7 @@
 #include "engine/Random.h"
 #include "engine/Search.h"
 #include "play/DisplayedMove.h"
+#include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/GameView.h"
 #include "play/HumanAction.h"
@@ -26,12 +27,12 @@ namespace {
 /// clock advances by a second at each call, so the pause before a search takes no time.
 class MatchView : public GameView {
 public:
-    float ThinkingSeconds = 0;
+    std::chrono::nanoseconds Time{0};
 
     void ShowBusy(bool busy) override {
         const auto now = std::chrono::steady_clock::now();
         if (busy) BusySince = now;
-        ThinkingSeconds = std::chrono::duration<float>(now - BusySince).count();
+        Time = now - BusySince;
     }
     double Now() const override { return Clock += 1; }
     bool IsClosing() const override { return Interrupted != 0; }
@@ -42,6 +43,12 @@ private:
 };
 
 // ---- The opening ----
+
+int LayoutWith(int pieces) {
+    int layout = 0;
+    while (LayoutPieces(layout) != pieces) ++layout;
+    return layout;
+}
 
 /// A random number below n. The distributions of the standard library are not the same on all
 /// machines.
@@ -90,10 +97,11 @@ std::uint64_t HashOfRecord() {
 
 bool PlayOn(const MatchTerms& terms, const MatchView& view, MatchGame& game) {
     while (GameOver == False && !IsRecordFull()) {
-        const int entry = Pos.MoveCount;
-        const bool isFirst = (Pos.SideToMove == Red) == game.FirstIsRed;
-        if (!PlayChosenMove(isFirst ? terms.First : terms.Second)) return false;
-        game.Seconds[entry] = view.ThinkingSeconds;
+        const Int16 side = Pos.SideToMove;
+        if (!PlayChosenMove(StrengthOf(terms, game.Number, side))) return false;
+        ThinkingTime& time = side == Red ? game.RedTime : game.BlueTime;
+        time.Total += view.Time.count();
+        time.Worst = std::max<std::int64_t>(time.Worst, view.Time.count());
         CheckWin();
     }
     return true;
@@ -101,18 +109,9 @@ bool PlayOn(const MatchTerms& terms, const MatchView& view, MatchGame& game) {
 
 }  // namespace
 
-int LayoutWith(int pieces) {
-    for (int layout = 0; layout < FreeSetupLayout; ++layout) {
-        if (LayoutPieces(layout) == pieces) return layout;
-    }
-    return -1;
-}
-
 bool PlayMatchGame(const MatchTerms& terms, int number, MatchGame& game) {
     game = {};
     game.Number = number;
-    game.FirstIsRed = FirstPlaysRed(terms, number);
-    game.Seconds.Fill(-1);
     const int opening = terms.Alternates ? (number + 1) / 2 : number;
     MatchView view;
     SetView(&view);

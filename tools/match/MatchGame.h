@@ -1,10 +1,9 @@
 #pragma once
 
 #include "core/Position.h"
-#include "play/GameRecord.h"
 
 #include <cstdint>
-#include <string>
+#include <map>
 
 /// One game of a match, played by the computer on both sides.
 namespace brastel {
@@ -23,29 +22,43 @@ struct MatchTerms {
     int RandomMoves = 2;
 };
 
+/// How long one side thought in one game, in nanoseconds. The opening is random and takes no time.
+struct ThinkingTime {
+    std::int64_t Total = 0;
+    /// For one move.
+    std::int64_t Worst = 0;
+};
+
 /// The result of one game. Plain data of at most PIPE_BUF bytes, so a pipe transfers it in one
 /// piece.
 struct MatchGame {
     int Number = 0;
-    bool FirstIsRed = true;
     /// Red, Blue, or Empty for a draw: the record was full before a side won.
     Int16 Winner = Empty;
     Int16 Entries = 0;
     /// Hash value of the record, to count different games.
     std::uint64_t Hash = 0;
-    /// Thinking time for entry k. Negative in the opening, which is random.
-    Table<float, 0, MaxEntries> Seconds;
+    ThinkingTime RedTime;
+    ThinkingTime BlueTime;
     /// The error number of the system (errno) if the game could not be saved, otherwise 0.
     int SaveError = 0;
 };
 
-/// The layout, 0 to 5, with this number of pieces of each side, or -1.
-int LayoutWith(int pieces);
+/// Games by their numbers.
+using MatchGames = std::map<int, MatchGame>;
 
 /// True if the first strength plays Red in game `number`.
 inline bool FirstPlaysRed(const MatchTerms& terms, int number) {
     return !terms.Alternates || number % 2 == 1;
 }
+
+/// The strength of Red or Blue in game `number`.
+inline Int16 StrengthOf(const MatchTerms& terms, int number, Int16 side) {
+    return FirstPlaysRed(terms, number) == (side == Red) ? terms.First : terms.Second;
+}
+
+/// The number of entries that are not chosen by the computer: the rings and the random moves.
+inline int OpeningEntries(const MatchTerms& terms) { return 2 + 2 * terms.RandomMoves; }
 
 /// Plays game `number`, from 1, with the procedures of play/. Afterwards the game is still in their
 /// data, so SaveMatchGame can save it. False if an interrupt ended the game early.

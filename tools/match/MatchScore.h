@@ -3,14 +3,13 @@
 #include "tools/match/Elo.h"
 #include "tools/match/MatchGame.h"
 
-#include <vector>
-
 /// The result of a match: wins, times and the difference of strength.
 namespace brastel {
 
-struct ThinkingTime {
-    double MedianSeconds = 0;
-    double WorstSeconds = 0;
+/// Per move, in milliseconds.
+struct MoveTime {
+    double Mean = 0;
+    double Worst = 0;
 };
 
 /// Wins and losses are those of the first strength.
@@ -25,8 +24,8 @@ struct MatchScore {
     int DifferentGames = 0;
     /// In entries, including ring placements and opening.
     double MeanLength = 0;
-    ThinkingTime First;
-    ThinkingTime Second;
+    MoveTime First;
+    MoveTime Second;
     /// Unknown with fewer than five games.
     Elo Difference;
 };
@@ -34,11 +33,12 @@ struct MatchScore {
 /// The mean score of the first strength: 0 for a loss, 0.5 for a draw, 1 for a win. 0 without
 /// games.
 double MeanOf(const MatchScore& score);
-int WinsByRed(const MatchScore& score);
-int WinsByBlue(const MatchScore& score);
 
-/// The score of games ordered by number. If `paired`, games 2k - 1 and 2k have the same opening and
-/// count as one result for the error.
-MatchScore ScoreOf(const std::vector<MatchGame>& games, bool paired);
+/// The score of one game for the first strength.
+double ResultOf(const MatchTerms& terms, const MatchGame& game);
+
+/// If colours alternate, games 2k - 1 and 2k have the same opening and count as one result for the
+/// error.
+MatchScore ScoreOf(const MatchTerms& terms, const MatchGames& games);
 
 }  // namespace brastel

@@ -7,6 +7,7 @@
 #include <cstdarg>
 #include <cstdio>
 #include <cstdlib>
+#include <initializer_list>
 
 namespace brastel {
 
@@ -32,51 +33,43 @@ std::string Padded(const std::string& text, int width) {
     return width < 0 ? text + spaces : spaces + text;
 }
 
-std::string Milliseconds(double seconds) { return Format("%.3f", seconds * 1000); }
-
-constexpr int LabelWidth = -25;
-constexpr int ValueWidth = 20;
-
-std::string LeftCells(const char* label, const std::string& value) {
-    return "| " + Padded(label, LabelWidth) + " | " + Padded(value, ValueWidth) + " |";
+/// A row of a table: a label and one or two values.
+std::string Row(std::initializer_list<std::string> cells) {
+    constexpr int LabelWidth = -25;
+    constexpr int ValueWidth = 20;
+    std::string row = "|";
+    for (const std::string& cell : cells) {
+        row += ' ' + Padded(cell, &cell == cells.begin() ? LabelWidth : ValueWidth) + " |";
+    }
+    return row + '\n';
 }
 
-std::string Row(const char* label, const std::string& value) {
-    return LeftCells(label, value) + '\n';
-}
-std::string Row(const char* label, int value) { return Row(label, std::to_string(value)); }
+constexpr const char* RuleBelowOne = "|---------------------------|---------------------:|\n";
+constexpr const char* RuleBelowTwo =
+    "|---------------------------|---------------------:|---------------------:|\n";
 
-std::string Row(const char* label, const std::string& first, const std::string& second) {
-    return LeftCells(label, first) + ' ' + Padded(second, ValueWidth) + " |\n";
-}
-std::string Row(const char* label, int first, int second) {
-    return Row(label, std::to_string(first), std::to_string(second));
-}
+std::string Text(int number) { return std::to_string(number); }
 
-constexpr const char* RuleBelowOne = "|---------------------------|---------------------:|";
-constexpr const char* RuleBelowSecond = "---------------------:|";
-
-std::string TableOfStrengths(const std::string& first, const std::string& second,
-                             const MatchScore& score) {
-    const double percent = 100 * MeanOf(score);
-    return Row("", first, second) + RuleBelowOne + RuleBelowSecond + '\n' +
-           Row("wins", score.Wins, score.Losses) +
-           Row("wins as Red", score.WinsAsRed, score.Losses - score.LossesAsRed) +
-           Row("wins as Blue", score.Wins - score.WinsAsRed, score.LossesAsRed) +
-           Row("score, %", Format("%.1f", percent),
-               Format("%.1f", score.Games == 0 ? 0 : 100 - percent)) +
-           Row("median time per move, ms", Milliseconds(score.First.MedianSeconds),
-               Milliseconds(score.Second.MedianSeconds)) +
-           Row("worst time per move, ms", Milliseconds(score.First.WorstSeconds),
-               Milliseconds(score.Second.WorstSeconds));
+std::string TableOfStrengths(const MatchTerms& terms, const MatchScore& score) {
+    const double percent = score.Games == 0 ? 0 : 100 * MeanOf(score);
+    const double other = score.Games == 0 ? 0 : 100 - percent;
+    const auto& [mean, worst] = score.First;
+    const auto& [otherMean, otherWorst] = score.Second;
+    return Row({"", NameOf(terms, true), NameOf(terms, false)}) + RuleBelowTwo +
+           Row({"wins", Text(score.Wins), Text(score.Losses)}) +
+           Row({"wins as Red", Text(score.WinsAsRed), Text(score.Losses - score.LossesAsRed)}) +
+           Row({"wins as Blue", Text(score.Wins - score.WinsAsRed), Text(score.LossesAsRed)}) +
+           Row({"score, %", Format("%.1f", percent), Format("%.1f", other)}) +
+           Row({"mean time per move, ms", Format("%.3f", mean), Format("%.3f", otherMean)}) +
+           Row({"worst time per move, ms", Format("%.3f", worst), Format("%.3f", otherWorst)});
 }
 
 std::string TableOfGames(const MatchScore& score) {
-    return Row("games", score.Games) + RuleBelowOne + '\n' +
-           Row("different games", score.DifferentGames) + Row("draws by 200 entries", score.Draws) +
-           Row("wins by Red", WinsByRed(score)) + Row("wins by Blue", WinsByBlue(score)) +
-           Row("mean length, entries", Format("%.1f", score.MeanLength)) +
-           Row("Elo difference, 95 %", EloText(score.Difference));
+    return Row({"games", Text(score.Games)}) + RuleBelowOne +
+           Row({"different games", Text(score.DifferentGames)}) +
+           Row({"draws by 200 entries", Text(score.Draws)}) +
+           Row({"mean length, entries", Format("%.1f", score.MeanLength)}) +
+           Row({"Elo difference, 95 %", EloText(score.Difference)});
 }
 
 }  // namespace
@@ -95,18 +88,20 @@ std::string EloText(const Elo& elo) {
     return "unknown";
 }
 
+std::string NameOf(const MatchTerms& terms, bool first) {
+    const char* const which = terms.First != terms.Second ? "" : first ? " (first)" : " (second)";
+    return StrengthName(first ? terms.First : terms.Second) + which;
+}
+
 std::string TermsText(const MatchTerms& terms) {
-    return Format("%d pieces a side, seed %" PRIu64 ", %d random moves of each side first",
+    return NameOf(terms, true) + " against " + NameOf(terms, false) + ", colours " +
+           (terms.Alternates ? "alternating" : "fixed") +
+           Format(", %d pieces a side, seed %" PRIu64 ", %d random moves of each side first",
                   terms.Pieces, terms.Seed, terms.RandomMoves);
 }
 
 std::string MatchTable(const MatchTerms& terms, const MatchScore& score) {
-    const bool areSame = terms.First == terms.Second;
-    const std::string first = StrengthName(terms.First) + (areSame ? " (first)" : "");
-    const std::string second = StrengthName(terms.Second) + (areSame ? " (second)" : "");
-    return first + " against " + second +
-           (terms.Alternates ? ", colours alternating, " : ", colours fixed, ") + TermsText(terms) +
-           "\n\n" + TableOfStrengths(first, second, score) + '\n' + TableOfGames(score);
+    return TermsText(terms) + "\n\n" + TableOfStrengths(terms, score) + '\n' + TableOfGames(score);
 }
 
 }  // namespace brastel

@@ -10,7 +10,10 @@ namespace brastel {
 /// For example "+120 ± 35", "> 484" or "unknown".
 std::string EloText(const Elo& elo);
 
-/// Pieces, seed and opening.
+/// The name of the first or second strength. If both are the same, the name says which one it is.
+std::string NameOf(const MatchTerms& terms, bool first);
+
+/// Everything that decides the games, in one line.
 std::string TermsText(const MatchTerms& terms);
 
 /// The terms, a Markdown table of the two strengths and one of the whole match.

@@ -3,9 +3,9 @@
 #include "core/StartPosition.h"
 #include "tools/CommandLine.h"
 
-#include <array>
+#include <algorithm>
 #include <limits>
-#include <utility>
+#include <thread>
 
 namespace brastel {
 
@@ -18,77 +18,64 @@ constexpr const char* Description =
 constexpr const char* Footer = R"(A STRENGTH is a number from 1 to 11 or a name from Easy to God.
 
 Examples:
-  brastel-match --red 5 --blue 3 --games 200 --jobs 2
+  brastel-match --red 5 --blue 3 --games 200 --jobs 0
   brastel-match --red Expert --blue Master --pieces 12 --games 10 --save games
+  brastel-match --red God --blue King --games 400 --csv god.csv --resume
 
 Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written, 3 the
-system failed, 130 interrupted. More in brastel-match(6).)";
+system failed. An interrupt ends the program by its signal. More in brastel-match(6).
+)";
 
 constexpr std::int64_t MaxGames = 100'000;
 constexpr std::int64_t MaxJobs = 256;
 constexpr std::int64_t MaxRandomMoves = 10;
+constexpr std::int64_t MaxSeed = std::numeric_limits<std::int64_t>::max();
 
-std::string ReadPieces(std::string& text) {
-    for (int layout = 0; layout < FreeSetupLayout; ++layout) {
-        if (text == std::to_string(LayoutPieces(layout))) return {};
-    }
-    return "\"" + text + "\" is not a number of pieces: use 2, 4, 6, 8, 10 or 12";
+CLI::Validator IsPieceCount() {
+    const auto read = [](std::string& text) -> std::string {
+        for (int layout = 0; layout < FreeSetupLayout; ++layout) {
+            if (text == std::to_string(LayoutPieces(layout))) return {};
+        }
+        return "\"" + text + "\" is not a number of pieces: use 2, 4, 6, 8, 10 or 12";
+    };
+    return {read, ""};
 }
 
-const CLI::Validator IsPieceCount(ReadPieces, "");
-
-/// A group of options in the help.
-class OptionGroup {
-public:
-    OptionGroup(CLI::App& app, std::string name) : App(app), Name(std::move(name)) {}
-
-    template <typename Value>
-    CLI::Option* Add(const char* name, Value& value, const char* kind, const char* help) {
-        return App.add_option(name, value, help)->type_name(kind)->group(Name);
-    }
-    CLI::Option* AddFlag(const char* name, bool& value, const char* help) {
-        return App.add_flag(name, value, help)->group(Name);
-    }
-
-private:
-    CLI::App& App;
-    std::string Name;
-};
-
-void AddSingleMatch(CLI::App& app, MatchTerms& terms) {
-    OptionGroup group(app, "Match");
-    group.Add("--red", terms.First, "STRENGTH", "strength of Red in the first game (5)")
-        ->transform(IsStrength());
-    group.Add("--blue", terms.Second, "STRENGTH", "strength of Blue in the first game (3)")
-        ->transform(IsStrength());
-    group.AddFlag("--no-alternate{false}", terms.Alternates,
-                  "the same colours in every game, each game with its own opening");
+/// Adds an option with a value.
+CLI::Option* Add(CLI::App& app, const char* name, auto& value, const char* kind,
+                 const CLI::Validator& check, const char* help) {
+    return app.add_option(name, value, help)->type_name(kind)->transform(check);
 }
 
-void AddGames(CLI::App& app, Options& options) {
-    OptionGroup group(app, "Games");
+void AddMatch(CLI::App& app, Options& options) {
+    app.option_defaults()->group("Match");
     MatchTerms& terms = options.Terms;
-    MatchRun& run = options.Run;
-    group.Add("--games", run.Games, "N", "games to play (100)")->transform(IsNumber(1, MaxGames));
-    group.Add("--pieces", terms.Pieces, "N", "pieces a side: 2, 4, 6, 8, 10 or 12 (8)")
-        ->transform(IsPieceCount);
-    group.Add("--seed", terms.Seed, "N", "seed of the random numbers; it decides the games (1)")
-        ->transform(IsNumber(0, std::numeric_limits<std::int64_t>::max()));
-    group
-        .Add("--random-moves", terms.RandomMoves, "N",
-             "random moves of each side at the beginning, 0 to 10 (2)")
-        ->transform(IsNumber(0, MaxRandomMoves));
-    group.Add("--jobs", run.Jobs, "N", "processes that play at the same time, 1 to 256 (1)")
-        ->transform(IsNumber(1, MaxJobs));
-    group.Add("--save", run.Folder, "DIR", "save a record file of each game here, for Load Game")
-        ->transform(IsPath());
+    Add(app, "--red", terms.First, "STRENGTH", IsStrength(),
+        "strength of Red in the first game (5)");
+    Add(app, "--blue", terms.Second, "STRENGTH", IsStrength(),
+        "strength of Blue in the first game (3)");
+    app.add_flag("--no-alternate{false}", terms.Alternates,
+                 "the same colours in every game, each game with its own opening");
+    Add(app, "--games", options.Run.Games, "N", IsNumber(1, MaxGames), "games to play (100)");
+    Add(app, "--pieces", terms.Pieces, "N", IsPieceCount(),
+        "pieces a side: 2, 4, 6, 8, 10 or 12 (8)");
+    Add(app, "--random-moves", terms.RandomMoves, "N", IsNumber(0, MaxRandomMoves),
+        "random moves of each side at the beginning, 0 to 10 (2)");
+    Add(app, "--seed", terms.Seed, "N", IsNumber(0, MaxSeed),
+        "seed of the random numbers; another seed gives other games (1)");
+    Add(app, "--jobs", options.Run.Jobs, "N", IsNumber(0, MaxJobs),
+        "games to play at the same time; 0: one on each core (1)");
 }
 
-void AddHelp(CLI::App& app) {
-    app.footer(Footer);
-    app.set_help_flag("-h,--help", "print this text")->group("Other");
-    app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "print the version")
-        ->group("Other");
+void AddFiles(CLI::App& app, Options& options) {
+    app.option_defaults()->group("Files");
+    CLI::Option* const csv =
+        Add(app, "--csv", options.CsvFile, "FILE", IsPath(), "write a line for each game here");
+    app.add_flag("--resume", options.Resume, "play only the games that are not in the CSV file")
+        ->needs(csv);
+    Add(app, "--save", options.Run.Folder, "DIR", IsPath(),
+        "save a record of each game here, for Load Game");
+    app.add_flag("--force", options.Run.Force, "overwrite existing files");
 }
 
 }  // namespace
@@ -96,10 +83,16 @@ void AddHelp(CLI::App& app) {
 std::optional<int> ReadOptions(int count, const char* const* texts, Options& options) {
     CLI::App app(Description, "brastel-match");
     app.option_defaults()->disable_flag_override();
-    AddSingleMatch(app, options.Terms);
-    AddGames(app, options);
-    AddHelp(app);
-    return ReadArguments(app, count, texts);
+    AddMatch(app, options);
+    AddFiles(app, options);
+    app.option_defaults()->group("Other");
+    app.set_help_flag("-h,--help", "print this text");
+    app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "print the version");
+    app.footer(Footer);
+    const auto status = ReadArguments(app, count, texts);
+    const int cores = static_cast<int>(std::thread::hardware_concurrency());
+    if (options.Run.Jobs == 0) options.Run.Jobs = std::max(cores, 1);
+    return status;
 }
 
 }  // namespace brastel

@@ -3,6 +3,7 @@
 #include "tools/match/PlayMatch.h"
 
 #include <optional>
+#include <string>
 
 /// The command line of brastel-match.
 namespace brastel {
@@ -10,6 +11,10 @@ namespace brastel {
 struct Options {
     MatchTerms Terms;
     MatchRun Run;
+    /// Empty for no CSV file.
+    std::string CsvFile;
+    /// Goes on with the match in the CSV file.
+    bool Resume = false;
 };
 
 /// Reads the command line. Returns an exit status if the program must end.

@@ -8,6 +8,7 @@
 #include <array>
 #include <cerrno>
 #include <climits>
+#include <csignal>
 #include <cstdio>
 #include <poll.h>
 #include <sys/prctl.h>
@@ -34,13 +35,15 @@ bool Send(int output, const MatchGame& game) {
 }
 
 /// Plays the games of one worker. Both games of one opening have the same worker.
-void PlayGamesOf(const MatchTerms& terms, const MatchRun& run, int worker, int output) {
-    for (int number = 1; number <= run.Games; ++number) {
+void PlayGamesOf(const MatchTerms& terms, const MatchRun& run, const std::vector<int>& numbers,
+                 int worker, int output) {
+    for (const int number : numbers) {
         if ((number - 1) / 2 % run.Jobs != worker) continue;
         MatchGame game;
         if (!PlayMatchGame(terms, number, game)) return;
         if (!run.Folder.empty()) {
-            game.SaveError = SaveMatchGame(run.Folder + '/' + SavedGameName(terms, number));
+            const std::string path = run.Folder + '/' + SavedGameName(terms, number);
+            game.SaveError = SaveMatchGame(path, run.Force);
         }
         if (!Send(output, game) || game.SaveError != 0) return;
     }
@@ -54,7 +57,7 @@ void InterruptAtEndOf(pid_t parent) {
 
 class Workers {
 public:
-    Workers(const MatchTerms& terms, const MatchRun& run) {
+    Workers(const MatchTerms& terms, const MatchRun& run, const std::vector<int>& numbers) {
         std::array<int, 2> ends{};
         if (pipe(ends.data()) != 0) return;
         Input = ends[0];
@@ -65,7 +68,7 @@ public:
             if (process == 0) {
                 close(Input);
                 InterruptAtEndOf(self);
-                PlayGamesOf(terms, run, worker, ends[1]);
+                PlayGamesOf(terms, run, numbers, worker, ends[1]);
                 _exit(Done);
             }
             if (process < 0) {
@@ -92,15 +95,17 @@ public:
         for (const pid_t process : Processes) kill(process, SIGTERM);
     }
 
-    /// Waits for the next game. False if all workers have ended, or none could start.
-    bool Receive(MatchGame& game) const {
-        if (Input < 0) return false;
+    /// Waits for games until all workers have ended.
+    void Receive(const MatchProgress& progress) const {
         pollfd input{Input, POLLIN, 0};
-        // With a time limit, because an interrupt just before poll does not end it.
+        MatchGame game;
         do {
+            // Here and not only after EINTR, because an interrupt just before poll does not end it.
             if (Interrupted != 0) Stop();
-        } while (poll(&input, 1, PollMilliseconds) <= 0);
-        return read(Input, &game, sizeof game) == static_cast<ssize_t>(sizeof game);
+            const bool hasInput = poll(&input, 1, PollMilliseconds) > 0;
+            if (hasInput && read(Input, &game, sizeof game) != ssize_t{sizeof game}) return;
+            if (!progress(hasInput ? &game : nullptr)) return;
+        } while (Input >= 0);
     }
 
 private:
@@ -110,20 +115,9 @@ private:
 
 }  // namespace
 
-MatchEnd PlayMatch(const MatchTerms& terms, const MatchRun& run, std::vector<MatchGame>& games,
-                   const MatchProgress& progress) {
-    Workers workers(terms, run);
-    MatchGame game;
-    bool isSaved = true;
-    while (isSaved && workers.Receive(game)) {
-        games.push_back(game);
-        isSaved = game.SaveError == 0;
-        progress(game);
-    }
-    std::ranges::sort(games, {}, &MatchGame::Number);
-    if (!isSaved) return MatchEnd::NotSaved;
-    if (static_cast<int>(games.size()) == run.Games) return MatchEnd::Complete;
-    return Interrupted != 0 ? MatchEnd::Stopped : MatchEnd::Failed;
+void PlayMatch(const MatchTerms& terms, const MatchRun& run, const std::vector<int>& numbers,
+               const MatchProgress& progress) {
+    Workers(terms, run, numbers).Receive(progress);
 }
 
 }  // namespace brastel

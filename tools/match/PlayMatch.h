@@ -3,9 +3,10 @@
 #include "tools/match/MatchGame.h"
 
 #include <functional>
+#include <string>
 #include <vector>
 
-/// Plays all games of a match in worker processes.
+/// Plays the games of a match in worker processes.
 namespace brastel {
 
 /// Options that do not change the games.
@@ -15,17 +16,17 @@ struct MatchRun {
     int Jobs = 1;
     /// The folder for the record files. Empty if games are not saved.
     std::string Folder;
+    /// Record files and the CSV file may be overwritten.
+    bool Force = false;
 };
 
-/// Stopped: by an interrupt. Failed: a worker process could not start or ended early.
-enum class MatchEnd { Complete, Stopped, NotSaved, Failed };
+/// Called after each game, and with nullptr at least ten times a second between games. The match
+/// ends when it returns false.
+using MatchProgress = std::function<bool(const MatchGame* game)>;
 
-/// Called after each game.
-using MatchProgress = std::function<void(const MatchGame& game)>;
-
-/// Plays games 1 to run.Games and adds them to `games`, ordered by number. After an interrupt or a
-/// failure, `games` has the games that are complete.
-MatchEnd PlayMatch(const MatchTerms& terms, const MatchRun& run, std::vector<MatchGame>& games,
-                   const MatchProgress& progress);
+/// Plays the games with these numbers. They can finish in another order. An interrupt, a worker
+/// process that fails or a game that cannot be saved ends the match early.
+void PlayMatch(const MatchTerms& terms, const MatchRun& run, const std::vector<int>& numbers,
+               const MatchProgress& progress);
 
 }  // namespace brastel
