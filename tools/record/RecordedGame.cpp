@@ -3,15 +3,58 @@
 #include "core/QuietMove.h"
 #include "core/StartPosition.h"
 #include "core/WinTest.h"
+#include "files/NumberFile.h"
 #include "play/DisplayedMove.h"
 #include "play/GameRecord.h"
 #include "tools/record/RuleCheck.h"
 
+#include <array>
+#include <cerrno>
+#include <fcntl.h>
+#include <filesystem>
+#include <sys/mman.h>
+#include <unistd.h>
 #include <utility>
 
 namespace brastel {
 
 namespace {
+
+// ---- Streams ----
+
+constexpr std::string_view StandardInput = "-";
+
+bool IsStream(const std::string& path) {
+    std::error_code ignored;
+    const auto type = std::filesystem::status(path, ignored).type();
+    return path == StandardInput || type == std::filesystem::file_type::fifo ||
+           type == std::filesystem::file_type::character;
+}
+
+/// Copies at most one part more than MaxFileSize. Returns false and sets errno after a failure, and
+/// if a signal came.
+bool CopyStream(const OpenFile& from, const OpenFile& to) {
+    std::array<char, 4096> part{};
+    ssize_t count = from.IsOpen() && to.IsOpen() ? 1 : -1;
+    for (std::size_t length = 0; count > 0 && length <= MaxFileSize;
+         length += static_cast<std::size_t>(count)) {
+        count = read(from.Descriptor(), part.data(), part.size());
+        if (count > 0) count = write(to.Descriptor(), part.data(), static_cast<std::size_t>(count));
+    }
+    return count >= 0;
+}
+
+/// ReadGameFile reads only ordinary files. So the stream is copied to a file in memory.
+GameReading ReadStream(const std::string& path) {
+    const OpenFile stream(path == StandardInput
+                              ? dup(STDIN_FILENO)
+                              : open(path.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC));
+    const OpenFile copy(memfd_create("record", MFD_CLOEXEC));
+    if (!CopyStream(stream, copy)) return {FileErrorFromSystem(errno), "", 0, errno, {}};
+    return ReadGameFile("/proc/self/fd/" + std::to_string(copy.Descriptor()));
+}
+
+// ---- Histories ----
 
 /// The positions after 0, 1, 2 ... entries, as they may have been in the game.
 using History = std::vector<Position>;
@@ -119,8 +162,8 @@ void FindWin(RecordedGame& game) {
 
 RecordedGame ReadRecordedGame(const std::string& path) {
     RecordedGame game;
-    const GameReading reading = ReadGameFile(path);
-    game.Path = path;
+    const GameReading reading = IsStream(path) ? ReadStream(path) : ReadGameFile(path);
+    game.Path = path == StandardInput ? "standard input" : path;
     game.Error = reading.Error;
     game.SystemError = reading.SystemError;
     game.Cause = reading.Cause;

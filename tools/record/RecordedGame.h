@@ -43,7 +43,9 @@ struct RecordedGame {
     int PlayedEntries() const { return static_cast<int>(Positions.size()) - 1; }
 };
 
-/// Reads the file and plays the game. Overwrites the current game, its record and the start tables.
+/// Reads the file and plays the game. "-" is standard input. A pipe or a device is read to its end,
+/// but not beyond MaxFileSize, or until a signal comes. Overwrites the current game, its record and
+/// the start tables.
 RecordedGame ReadRecordedGame(const std::string& path);
 
 }  // namespace brastel
