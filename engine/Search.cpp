@@ -121,6 +121,18 @@ Int16 ChooseCandidate(Int16 depth) {
     return SelectFromRoot();
 }
 
+int ValueOfAction(const Action& action, Int16 depth) {
+    const int immediate = ScoreMove(action);
+    if (depth == 1 || IsWin(immediate)) return UnitsPerPoint * immediate;
+    const PlySave saved;
+    const Candidate candidate = CandidateOf(action, immediate);
+    ClearTable();
+    for (TreeDepth = 2 + depth % 2; TreeDepth < depth; TreeDepth += 2) {
+        ValueOf(SearchPly, candidate, -Infinity, Infinity, saved);
+    }
+    return ValueOf(SearchPly, candidate, -Infinity, Infinity, saved);
+}
+
 Int16 ChoosePlayable() { return SelectFromRoot(CanBePlayed); }
 
 bool MustPass() {

@@ -14,6 +14,11 @@ constexpr Int16 SearchPly = 1;
 /// ties are broken by RandomBelow. The position is the same after the call.
 Int16 ChooseCandidate(Int16 depth);
 
+/// The value of an action by a search of `depth` plies, in units: what ChooseCandidate finds for
+/// its best candidate. The action need not be a candidate. The position is the same after the call.
+/// Preconditions: both rings are placed, and ActionFits.
+int ValueOfAction(const Action& action, Int16 depth);
+
 /// Chooses as ChooseCandidate does, by the values in row 1, but only among the candidates that can
 /// be played; 0 when there are none. A goal entry cannot be played if an opponent waits in the
 /// goal: it counts as a win, but would push the opponent off the board.

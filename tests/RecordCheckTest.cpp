@@ -1,7 +1,10 @@
+#include "core/WinTest.h"
+#include "play/DisplayedMove.h"
 #include "play/TurnFlow.h"
 #include "tests/FilesTest.h"
 #include "tests/GameTest.h"
 #include "tools/record/Report.h"
+#include "tools/record/Review.h"
 #include "tools/record/RuleCheck.h"
 
 namespace brastel {
@@ -43,6 +46,33 @@ TEST_F(GameTest, LawfulGamesAreNotMarked) {
         const RecordedGame game = ReadRecordedGame("game");
         EXPECT_TRUE(game.IsLegal()) << number << ' ' << ResultLine(game) << BytesOf("game");
         EXPECT_TRUE(game.Positions.back() == played);
+    }
+}
+
+/// In the computer's own games, most of which are won, the review finds no better move, and the
+/// same values as the search.
+TEST(RecordCheckTest, ReviewsAgreeWithTheComputer) {
+    FileDesk desk;
+    desk.Answer = true;
+    for (Int16 depth = 1; depth <= 5; ++depth) {
+        SelectStartLayout(depth);
+        SetUpStartPosition();
+        SeedRandom(3);
+        std::vector<RedValue> values;
+        while (FindWinner() == Empty && Pos.MoveCount <= 60) {
+            const Int16 chosen = ChooseCandidate(depth);
+            const auto units = std::lround(MoveScores[SearchPly][chosen] * UnitsPerPoint);
+            values.push_back(-Pos.SideToMove * static_cast<int>(units));
+            ApplyMoveShown(PlayableAction(chosen));
+            CountEntry();
+        }
+        SaveGameFile("game");
+        const GameReview review = ReviewGame(ReadRecordedGame("game"), depth);
+        ASSERT_EQ(review.Entries.size(), values.size());
+        for (std::size_t n = RingCount; n < values.size(); ++n) {
+            EXPECT_EQ(review.Entries[n].Made->Played, values[n]) << depth << ' ' << n;
+            EXPECT_EQ(review.Entries[n].Made->Loss, 0) << depth << ' ' << n;
+        }
     }
 }
 

@@ -11,6 +11,7 @@ cp "$Data/good/06-passes.txt" broken
 cp "$Data/damaged/05-square-113.txt" damaged
 echo 2 2 4 20 68 109 16 44 3 20 0 44 0 20 12 >won
 echo 2 2 4 20 68 109 16 44 6 20 0 44 0 20 28 44 52 0 0 28 36 >unlawful
+echo 2 2 4 20 68 109 16 44 3 20 0 44 0 20 28 >blunder
 echo kept >old
 
 expect 0 'game: 3 entries, Blue to move' '' game
@@ -44,11 +45,24 @@ expect 0 '<svg *<title>After entry 1: *row 14, column 5: Blue?s goal, a ring</ti
 expect 1 'After entry 6: Red to move*' 'broken:23: entry 3 *' --at 6 broken
 expect 1 '' 'damaged:10: *' --at 1 damaged
 expect 2 '' 'brastel-record: game: no position after entry 4: the last entry is 3' --at 4 game
-for bad in '--at -1' '--at 201' --svg '--moves --at 1' --force; do
+expect 0 'standard input: 3 entries*' '' -o - - <game
+expect 1 '*: 3 entries, *standard input:1: error 10: *' '' <(cat game) - </dev/zero
+# A file name after --review is no strength.
+mistake='   3. Red   3,4-4,4 *-4.0   3,4-2,? *Red wins   104.0 \*'
+expect 0 "*Easy*$mistake*Entry 3 loses 104.0 points: Red piece 1 from *Better: *" '' --review eAsY blunder
+expect 0 '*King*Red lost 0.0 points.*Blue lost 0.0 points.*' '' --review won
+expect 0 '*"depth": 2,*"played": \[44, 0\]},*"best_value": 10000.00, *"worst": true}*' '' \
+    --review=2 --json blunder
+expect 0 '<svg *<title>Entry 3 loses *</svg>' '' --review --svg blunder
+expect 1 '*   4. Blue *' 'unlawful:1: entry 5 *' unlawful --review
+expect 1 '' 'damaged:10: *' --review damaged
+expect 2 '' '*name one file' --review Kong game
+for bad in '--at -1' '--at 201' '--moves --at 1' --force --json '--review --moves'; do
     # shellcheck disable=SC2086
     expect 2 '' '*see --help' $bad game
 done
 expect 2 '' '*see --help'
+expect 2 '' '*see --help' --svg game
 expect 2 '' '*name one file' --at 1 game broken
 expect 2 '' '*old: exists; --force overwrites it' --at 1 -o old game
 expect 2 '' '*game: the output file is a record to read' --force -o game game

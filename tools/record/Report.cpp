@@ -54,11 +54,6 @@ std::string WithSide(int side, const std::string& words) {
     return words.starts_with(name) ? words : name + ": " + words;
 }
 
-std::string EntryInWords(const RecordedGame& game, int entry) {
-    const Position& before = PositionAfter(game, entry - 1);
-    return WithSide(before.SideToMove, ChangesInWords(before, PositionAfter(game, entry)));
-}
-
 std::string FileEntryInWords(const RecordedGame& game, int entry) {
     const RecordedEntry& broken = game.Entries[static_cast<std::size_t>(entry) - 1];
     const std::string side = SideInWords(PositionAfter(game, entry - 1).SideToMove);
@@ -80,6 +75,11 @@ std::string BrokenEntryLine(const RecordedGame& game) {
 }
 
 }  // namespace
+
+std::string EntryInWords(const RecordedGame& game, int entry) {
+    const Position& before = PositionAfter(game, entry - 1);
+    return WithSide(before.SideToMove, ChangesInWords(before, PositionAfter(game, entry)));
+}
 
 std::string FailureInWords(FileError error, int systemError) {
     return systemError != 0 ? std::strerror(systemError) : std::string(FileErrorInWords(error));

@@ -20,6 +20,9 @@ std::string ResultLine(const RecordedGame& game);
 /// read.
 std::string MovesInWords(const RecordedGame& game);
 
+/// "Red piece 3 from row 9, column 4 to row 7, column 4". Precondition: the entry was played.
+std::string EntryInWords(const RecordedGame& game, int entry);
+
 /// "After entry 37: Red to move".
 std::string Caption(const RecordedGame& game, int entry);
 
