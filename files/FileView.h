@@ -24,9 +24,9 @@ public:
     /// Shows a box with the exclamation icon.
     virtual void ShowWarning(const std::string& /*text*/, const std::string& /*title*/) {}
 
-    /// The documents folder of the user, or the home folder if the documents folder is not
-    /// writable.
-    virtual std::string DocumentsFolder() const { return {}; }
+    /// The folder of the program. Usually the user may not write there, so a save by name would
+    /// fail: then the documents folder or, if that is not writable either, the home folder.
+    virtual std::string ProgramFolder() const { return {}; }
 };
 
 /// The view that the file commands use. Never null.

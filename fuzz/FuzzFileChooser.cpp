@@ -63,12 +63,11 @@ void MakeEntry() {
     if (kind > 3) WriteEntry(path, content);
 }
 
-/// The table of mounts and the program's own place are files like any other here, but no pipes.
+/// The table of mounts is a file like any other here, but no pipe.
 void MakeDisk() {
     std::error_code ignored;
     fs::create_directories("/proc/self", ignored);
     WriteEntry("/proc/self/mounts", Text());
-    fs::create_symlink(Text(), "/proc/self/exe", ignored);
     for (int n = Byte() % (MostEntries + 1); n > 0; --n) MakeEntry();
     fs::current_path(Text(), ignored);
 }

@@ -63,7 +63,7 @@ public:
         const auto number = text.find_last_not_of("0123456789") + 1;
         Calls += (number < text.size() ? text.substr(number) : title + ": " + text) + ' ';
     }
-    std::string DocumentsFolder() const override { return "/"; }
+    std::string ProgramFolder() const override { return "/"; }
 };
 
 }  // namespace brastel

@@ -251,9 +251,13 @@ void MainWindow::ShowWarning(const std::string& text, const std::string& title) 
     RunMessageBox(QMessageBox::Warning, text, title, QMessageBox::Ok, QMessageBox::Ok);
 }
 
-std::string MainWindow::DocumentsFolder() const {
-    const QString documents = QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation);
-    return (QFileInfo(documents).isWritable() ? documents : QDir::homePath()).toStdString();
+std::string MainWindow::ProgramFolder() const {
+    for (const QString& folder :
+         {QCoreApplication::applicationDirPath(),
+          QStandardPaths::writableLocation(QStandardPaths::DocumentsLocation)}) {
+        if (QFileInfo(folder).isWritable()) return folder.toStdString();
+    }
+    return QDir::homePath().toStdString();
 }
 
 /// May come in the middle of a computer move. During the pause before the search, the window closes

@@ -47,7 +47,7 @@ public:
     void OpenMainWindow() override;
     bool AskYesOrNo(const std::string& text, const std::string& title) override;
     void ShowWarning(const std::string& text, const std::string& title) override;
-    std::string DocumentsFolder() const override;
+    std::string ProgramFolder() const override;
 
 protected:
     void closeEvent(QCloseEvent* event) override;
