@@ -4,11 +4,11 @@
 #include "files/FileView.h"
 #include "files/FolderContent.h"
 #include "files/GameFile.h"
+#include "files/PathText.h"
 
 #include <algorithm>
 #include <filesystem>
 #include <map>
-#include <unistd.h>
 
 namespace brastel {
 
@@ -34,12 +34,12 @@ bool HasLoadedBefore = false;
 void ListFolders(const std::string& drive) {
     Chooser.Folders.clear();
     Chooser.Folders.push_back({drive, drive, 0});
-    const fs::path below = fs::path(Chooser.Folder).lexically_relative(drive);
+    const fs::path below = PathOf(Chooser.Folder).lexically_relative(PathOf(drive));
     for (const fs::path& part : below) {
         if (part == ".") continue;
         const FolderRow& above = Chooser.Folders.back();
         Chooser.Folders.push_back(
-            {JoinPath(above.Path, part.string()), part.string(), above.Depth + 1});
+            {JoinPath(above.Path, TextOf(part)), TextOf(part), above.Depth + 1});
     }
     const int depth = Chooser.Folders.back().Depth + 1;
     for (const std::string& name : FoldersIn(Chooser.Folder)) {
@@ -58,7 +58,7 @@ void ListWorkingFolder() {
         folder = RootFolder;
         fs::current_path(folder, error);
     }
-    Chooser.Folder = folder.string();
+    Chooser.Folder = TextOf(folder);
     Chooser.Drives = ListDrives();
     const std::string drive = DriveOf(Chooser.Drives, Chooser.Folder);
     Chooser.Drive =
@@ -76,7 +76,7 @@ bool EnterFolder(const fs::path& folder) {
     const bool isEntered = !error;
     if (isEntered) {
         ListWorkingFolder();
-        const fs::directory_iterator content(Chooser.Folder, error);
+        const fs::directory_iterator content(PathOf(Chooser.Folder), error);
     }
     if (error) FileWindows->ShowWarning(error.message(), ProgramTitle);
     return isEntered;
@@ -95,22 +95,14 @@ const Row* RowAt(const std::vector<Row>& rows, int row) {
 
 // ---- A file is chosen ----
 
-/// Usually the user may not write to the folder of an installed program. Then a save by name would
-/// fail there, so the documents folder is entered instead.
-void EnterProgramFolder() {
-    std::error_code error;
-    fs::path folder = fs::read_symlink("/proc/self/exe", error).parent_path();
-    if (access(folder.c_str(), W_OK) != 0) folder = FileWindows->DocumentsFolder();
-    fs::current_path(folder, error);
-}
-
 bool ChoosePath(const std::string& path) {
+    std::error_code ignored;
     ChosenFileName = path;
     if (Chooser.Mode == ChooserMode::Save) {
         SaveGameFile(path);
         return true;
     }
-    if (!HasLoadedBefore) EnterProgramFolder();
+    if (!HasLoadedBefore) fs::current_path(PathOf(FileWindows->ProgramFolder()), ignored);
     HasLoadedBefore = true;
     LoadGameFile(path);
     return true;
@@ -119,20 +111,21 @@ bool ChoosePath(const std::string& path) {
 // ---- The kinds of text for OK. Each returns false if the text is of another kind. ----
 
 bool TakeFolder(const std::string& text) {
-    if (!IsFolder(text)) return false;
-    if (EnterFolder(text)) Chooser.NameBox = Chooser.Pattern;
+    const fs::path path = PathOf(text);
+    if (!IsFolder(path)) return false;
+    if (EnterFolder(path)) Chooser.NameBox = Chooser.Pattern;
     return true;
 }
 
 /// The pattern can have a folder before it.
 bool TakePattern(const std::string& text) {
-    const fs::path path(text);
-    if (!IsPattern(path.filename().string())) return false;
+    const fs::path path = PathOf(text);
+    if (!IsPattern(TextOf(path.filename()))) return false;
     if (path.has_parent_path()) {
         if (!IsFolder(path.parent_path())) return false;
         if (!EnterFolder(path.parent_path())) return true;
     }
-    Chooser.Pattern = path.filename().string();
+    Chooser.Pattern = TextOf(path.filename());
     Chooser.NameBox = Chooser.Pattern;
     ListFiles();
     return true;
@@ -140,7 +133,7 @@ bool TakePattern(const std::string& text) {
 
 bool TakeUnknownName(const std::string& text) {
     std::error_code error;
-    const fs::file_status status = fs::status(text, error);
+    const fs::file_status status = fs::status(PathOf(text), error);
     if (status.type() == fs::file_type::none) {
         FileWindows->ShowWarning(error.message(), ProgramTitle);
         return false;
@@ -179,14 +172,14 @@ void ChooseDrive(int drive) {
     const std::string chosen = *row;
     const auto last = FolderOnDrive.find(chosen);
     // The folder may have been removed since then, or another drive may be mounted there.
-    const bool isKnown = last != FolderOnDrive.end() && IsFolder(last->second) &&
+    const bool isKnown = last != FolderOnDrive.end() && IsFolder(PathOf(last->second)) &&
                          DriveOf(Chooser.Drives, last->second) == chosen;
-    if (!isKnown || !EnterFolder(last->second)) EnterFolder(chosen);
+    if (!isKnown || !EnterFolder(PathOf(last->second))) EnterFolder(PathOf(chosen));
 }
 
 void ChooseFolder(int row) {
     const FolderRow* chosen = RowAt(Chooser.Folders, row);
-    if (chosen != nullptr) EnterFolder(fs::path(chosen->Path));
+    if (chosen != nullptr) EnterFolder(PathOf(chosen->Path));
 }
 
 void ClickFile(int row) {
@@ -201,10 +194,10 @@ bool ChooseFile(int row) {
 
 bool GoToFile(const std::string& text) {
     std::error_code error;
-    const fs::path path(text);
+    const fs::path path = PathOf(text);
     if (!fs::exists(path, error) || fs::is_directory(path, error)) return false;
     if (path.has_parent_path() && !EnterFolder(path.parent_path())) return false;
-    Chooser.NameBox = path.filename().string();
+    Chooser.NameBox = TextOf(path.filename());
     return true;
 }
 

@@ -1,8 +1,11 @@
 #include "files/FileErrors.h"
 
+#include "files/PathText.h"
+
 #include <array>
 #include <cerrno>
 #include <cstddef>
+#include <filesystem>
 
 namespace brastel {
 
@@ -25,12 +28,23 @@ FileError FileErrorFromSystem(int systemError) {
         case ENODEV:
             return FileError::NotAFile;
         case ENOSPC:
+#ifdef EDQUOT
         case EDQUOT:
+#endif
         case EFBIG:
             return FileError::DiskFull;
         default:
             return FileError::SystemFailure;
     }
+}
+
+FileError FileErrorOfOpening(const std::string& path, int systemError) {
+    const std::filesystem::path folder = PathOf(path).parent_path();
+    std::error_code ignored;
+    const bool lacksFolder =
+        systemError == ENOENT && !folder.empty() && !std::filesystem::exists(folder, ignored);
+    errno = systemError;
+    return lacksFolder ? FileError::PathNotAccessible : FileErrorFromSystem(systemError);
 }
 
 std::string_view FileErrorInWords(FileError error) {

@@ -30,6 +30,10 @@ enum class FileError {
 /// The error for a system error number (errno) of opening, reading or writing a file.
 FileError FileErrorFromSystem(int systemError);
 
+/// The error for a path that could not be opened: FileNotFound if its folder exists, otherwise
+/// PathNotAccessible. Does not change errno.
+FileError FileErrorOfOpening(const std::string& path, int systemError);
+
 /// The error in a few English words, for messages of programs.
 std::string_view FileErrorInWords(FileError error);
 

@@ -1,5 +1,7 @@
 #include "files/FolderContent.h"
 
+#include "files/PathText.h"
+
 #include <algorithm>
 #include <filesystem>
 
@@ -57,9 +59,9 @@ template <typename Condition>
 std::vector<std::string> NamesIn(const std::string& folder, Condition isWanted) {
     std::vector<std::string> names;
     std::error_code error;
-    fs::directory_iterator entry(folder, error);
+    fs::directory_iterator entry(PathOf(folder), error);
     for (; !error && entry != fs::directory_iterator(); entry.increment(error)) {
-        std::string name = entry->path().filename().string();
+        std::string name = TextOf(entry->path().filename());
         if (isWanted(*entry, name)) names.push_back(std::move(name));
     }
     std::ranges::sort(names);

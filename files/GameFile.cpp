@@ -3,10 +3,10 @@
 #include "core/StartPosition.h"
 #include "files/FileView.h"
 #include "files/NumberFile.h"
+#include "files/PathText.h"
 #include "files/TextFile.h"
 
 #include <cerrno>
-#include <filesystem>
 
 namespace brastel {
 
@@ -144,7 +144,7 @@ void SaveGameFile(const std::string& path) {
     }
     if (error != FileError::None) ReportFileError(error);
     std::error_code ignored;
-    if (std::filesystem::equivalent(path, LoadedFileName, ignored)) StartRead.clear();
+    if (std::filesystem::equivalent(PathOf(path), PathOf(LoadedFileName), ignored)) StartRead.clear();
 }
 
 GameReading ReadGameFile(const std::string& path) {

@@ -1,13 +1,14 @@
 #include "files/NumberFile.h"
 
+#include "files/PathText.h"
+
 #include <algorithm>
 #include <cctype>
 #include <cerrno>
 #include <fcntl.h>
+#include <filesystem>
 #include <limits>
 #include <string_view>
-#include <sys/stat.h>
-#include <unistd.h>
 #include <utility>
 
 namespace brastel {
@@ -23,8 +24,9 @@ bool IsSeparator(int byte) {
 
 /// Also checked before opening, because opening a pipe or a device can start an action.
 bool IsNotOrdinaryFile(const std::string& path) {
-    struct stat state {};
-    return stat(path.c_str(), &state) == 0 && !S_ISREG(state.st_mode);
+    std::error_code ignored;
+    const auto status = std::filesystem::status(PathOf(path), ignored);
+    return exists(status) && !is_regular_file(status);
 }
 
 }  // namespace
@@ -47,10 +49,7 @@ NumberReader::NumberReader(const std::string& path) {
 
 int NumberReader::Peek() {
     if (Used == Filled) {
-        ssize_t count = 0;
-        do {
-            count = read(File->Descriptor(), Buffer.data(), std::min(Buffer.size(), Unread));
-        } while (count < 0 && errno == EINTR);
+        const std::ptrdiff_t count = File->Read(Buffer.data(), std::min(Buffer.size(), Unread));
         if (count < 0) FailBy(errno, FileErrorFromSystem(errno));
         if (count <= 0) return EndOfData;
         Used = 0;

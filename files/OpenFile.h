@@ -2,6 +2,7 @@
 
 #include "files/FileErrors.h"
 
+#include <cstddef>
 #include <string>
 #include <sys/stat.h>
 
@@ -21,6 +22,8 @@ public:
 
     int Descriptor() const { return File; }
     bool IsOpen() const { return File >= 0; }
+    /// The result of read(2), also after a signal.
+    std::ptrdiff_t Read(void* bytes, std::size_t size) const;
     /// The result of fstat(2). All zero if the file is not open.
     struct stat State() const;
     /// Returns false and sets errno if the system reports a failed write only when closing.
@@ -29,9 +32,5 @@ public:
 private:
     int File;
 };
-
-/// The error for a path that could not be opened: FileNotFound if its folder exists, otherwise
-/// PathNotAccessible. Does not change errno.
-FileError FileErrorOfOpening(const std::string& path, int systemError);
 
 }  // namespace brastel

@@ -24,16 +24,14 @@ struct stat OpenFile::State() const {
     return state;
 }
 
-bool OpenFile::Close() { return close(std::exchange(File, -1)) == 0; }
-
-FileError FileErrorOfOpening(const std::string& path, int systemError) {
-    if (systemError != ENOENT) return FileErrorFromSystem(systemError);
-    const std::size_t slash = path.rfind('/');
-    if (slash == std::string::npos || slash == 0) return FileError::FileNotFound;
-    struct stat folder {};
-    const bool hasFolder = stat(path.substr(0, slash).c_str(), &folder) == 0;
-    errno = systemError;
-    return hasFolder ? FileError::FileNotFound : FileError::PathNotAccessible;
+std::ptrdiff_t OpenFile::Read(void* bytes, std::size_t size) const {
+    ssize_t count = 0;
+    do {
+        count = read(File, bytes, size);
+    } while (count < 0 && errno == EINTR);
+    return count;
 }
+
+bool OpenFile::Close() { return close(std::exchange(File, -1)) == 0; }
 
 }  // namespace brastel

@@ -48,8 +48,7 @@ bool CopyAll(const OpenFile& from, const OpenFile& to) {
     if (!GoToStart(from) || !GoToStart(to)) return false;
     std::array<char, 65536> part{};
     while (true) {
-        const ssize_t count = read(from.Descriptor(), part.data(), part.size());
-        if (count < 0 && errno == EINTR) continue;
+        const std::ptrdiff_t count = from.Read(part.data(), part.size());
         if (count <= 0) return count == 0;
         if (!WriteAll(to, {part.data(), static_cast<std::size_t>(count)})) return false;
     }
