@@ -7,7 +7,7 @@ BuildPackages=(g++ cmake ninja-build qt6-base-dev libcli11-dev)
 # Half-width katakana need a Japanese font.
 FontPackages=(fonts-ipafont-gothic fonts-dejavu-core)
 VirtualDisplayPackages=(xvfb xdotool imagemagick)
-TestPackages=(libgtest-dev libbenchmark-dev qt6-base-private-dev openbox x11-utils at-spi2-core
+TestPackages=(libgtest-dev qt6-base-private-dev openbox x11-utils at-spi2-core
     dbus-daemon libglib2.0-bin python3-pyatspi bubblewrap)
 CheckPackages=(clang-format clang-tidy shellcheck)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
