@@ -7,7 +7,7 @@
 #include "engine/Candidates.h"
 #include "engine/Search.h"
 #include "engine/TreeSearch.h"
-#include "tools/ReadNumber.h"
+#include "tools/CommandLine.h"
 
 #include <algorithm>
 #include <array>
@@ -16,29 +16,20 @@
 #include <cinttypes>
 #include <cstdio>
 #include <limits>
+#include <numeric>
 #include <optional>
 #include <span>
 #include <string>
-#include <string_view>
 #include <vector>
 
 namespace {
 
 using namespace brastel;
 
-constexpr const char* Usage = R"(Usage: brastel-bench [OPTION...] [LEVEL...]
-
-Times the computer's choice at each LEVEL, 1 to 11 (all if none is given), in positions from real
-games. The last line is the signature of the choices: equal play, equal signature.
-
-  --pieces N     only positions of the start layout with N pieces a side: 2, 4, 6, 8, 10 or 12
-  --expect HEX   fail with status 1 unless this is the signature
-  --at-most N    fail with status 1 if more positions than this are looked at
-  --help         show this text
+constexpr const char* Description =
+    R"(Times the computer's choice at each LEVEL in positions from real games. The last line is the
+signature of the choices: equal play, equal signature.
 )";
-
-constexpr int Unexpected = 1;
-constexpr int BadArguments = 2;
 
 // ---- The signature ----
 
@@ -82,25 +73,25 @@ Timing TimeChoice(Int16 level, int position, Signature& signature) {
     return {time.count(), position};
 }
 
-/// What the whole run found, on any machine the same.
+/// What the whole run found. It is the same on every machine.
 struct Findings {
     Signature Choices = EmptySignature;
-    std::uint64_t Searched = 0;
+    std::int64_t Searched = 0;
 };
 
 void BenchLevel(Int16 level, std::span<const int> positions, Findings& findings) {
     std::vector<Timing> timings;
     double seconds = 0;
-    std::uint64_t searched = 0;
+    std::int64_t searched = 0;
     for (const int position : positions) {
         timings.push_back(TimeChoice(level, position, findings.Choices));
         seconds += timings.back().Seconds;
-        searched += SearchedPositions;
+        searched += static_cast<std::int64_t>(SearchedPositions);
     }
     findings.Searched += searched;
     std::ranges::sort(timings, {}, &Timing::Seconds);
     const Timing& worst = timings.back();
-    std::printf("%5d  %10.3f ms  %10.3f ms  %10.3f ms  %12" PRIu64 "  %s\n", level,
+    std::printf("%5d  %10.3f ms  %10.3f ms  %10.3f ms  %12" PRId64 "  %s\n", level,
                 timings[timings.size() / 2].Seconds * 1000, worst.Seconds * 1000, seconds * 1000,
                 searched, BenchPositionLabel(worst.Position).c_str());
     std::fflush(stdout);
@@ -110,114 +101,75 @@ void BenchLevel(Int16 level, std::span<const int> positions, Findings& findings)
 
 struct Options {
     std::vector<Int16> Levels;
-    std::vector<int> Positions;
-    std::optional<Signature> Expected;
-    std::optional<std::uint64_t> MostSearched;
+    int Pieces = 0;
+    std::string Expected;
+    std::int64_t MostSearched = std::numeric_limits<std::int64_t>::max();
 };
 
-constexpr std::uint64_t Unlimited = std::numeric_limits<std::uint64_t>::max();
-
-bool ReadLevel(std::string_view text, Options& options) {
-    const auto level = ReadNumber<Int16>(text, 1, MaxPly);
-    if (level) options.Levels.push_back(*level);
-    return level.has_value();
-}
-
-bool ReadPieces(std::string_view text, Options& options) {
-    options.Positions = BenchPositionsWith(ReadNumber<int>(text, 1, MaxPieces).value_or(0));
-    return !options.Positions.empty();
-}
-
-bool ReadExpected(std::string_view text, Options& options) {
-    options.Expected = ReadNumber<Signature>(text, 0, Unlimited, 16);
-    return options.Expected.has_value();
-}
-
-bool ReadMostSearched(std::string_view text, Options& options) {
-    options.MostSearched = ReadNumber<std::uint64_t>(text, 0, Unlimited);
-    return options.MostSearched.has_value();
-}
-
-/// What an argument stands for. Where it is an option, the next argument is its value.
-struct Argument {
-    std::string_view Name;
-    bool (*Read)(std::string_view text, Options& options);
-    const char* Complaint;
-};
-
-constexpr std::array<Argument, 4> Arguments{{
-    {"--pieces", ReadPieces, "--pieces needs 2, 4, 6, 8, 10 or 12"},
-    {"--expect", ReadExpected, "--expect needs a hexadecimal number of 64 bits"},
-    {"--at-most", ReadMostSearched, "--at-most needs a whole number"},
-    {"", ReadLevel, "what is no option must be a level, 1 to 11"},
-}};
-
-const Argument& ArgumentCalled(std::string_view name) {
-    const auto found = std::ranges::find(Arguments, name, &Argument::Name);
-    return found != Arguments.end() ? *found : Arguments.back();
-}
-
-/// The complaint about the first argument that makes no sense, or nullptr.
-const char* ReadArguments(std::span<char*> texts, Options& options) {
-    for (std::size_t i = 0; i < texts.size(); ++i) {
-        const Argument& argument = ArgumentCalled(texts[i]);
-        const bool isOption = !argument.Name.empty();
-        if (isOption) ++i;
-        if (i == texts.size() || !argument.Read(texts[i], options)) return argument.Complaint;
+/// Returns an exit status if the program must end.
+std::optional<int> ReadOptions(int count, const char* const* texts, Options& options) {
+    CLI::App app(Description, "brastel-bench");
+    app.add_option("LEVEL", options.Levels, "1 to 11, or the name of a strength (all)")
+        ->transform(IsStrength());
+    app.add_option("--pieces", options.Pieces,
+                   "only positions with 2, 4, 6, 8, 10 or 12 pieces a side")
+        ->type_name("N")
+        ->transform(IsPieceCount());
+    app.add_option("--expect", options.Expected, "fail with status 1 unless this is the signature")
+        ->type_name("HEX");
+    app.add_option("--at-most", options.MostSearched,
+                   "fail with status 1 if more positions are searched")
+        ->type_name("N")
+        ->transform(IsNumber(0, options.MostSearched));
+    const auto status = ReadArguments(app, count, texts);
+    for (Int16 level = 1; level <= MaxPly && app.count("LEVEL") == 0; ++level) {
+        options.Levels.push_back(level);
     }
-    return nullptr;
+    return status;
 }
 
-void CompleteOptions(Options& options) {
-    if (options.Levels.empty()) {
-        for (Int16 level = 1; level <= MaxPly; ++level) options.Levels.push_back(level);
-    }
-    if (options.Positions.empty()) {
-        for (int n = 1; n <= BenchPositionCount; ++n) options.Positions.push_back(n);
-    }
+std::vector<int> PositionsOf(const Options& options) {
+    if (options.Pieces != 0) return BenchPositionsWith(options.Pieces);
+    std::vector<int> positions(BenchPositionCount);
+    std::iota(positions.begin(), positions.end(), 1);
+    return positions;
 }
 
 // ---- The whole run ----
 
 Findings BenchLevels(const Options& options) {
     Findings findings;
-    std::printf("level         median          worst            all     positions  worst in\n");
-    for (const Int16 level : options.Levels) BenchLevel(level, options.Positions, findings);
-    std::printf("all positions %" PRIu64 "\nsignature %016" PRIx64 "\n", findings.Searched,
-                findings.Choices);
+    const std::vector<int> positions = PositionsOf(options);
+    std::puts("level         median          worst            all     positions  worst in");
+    for (const Int16 level : options.Levels) BenchLevel(level, positions, findings);
     return findings;
 }
 
 int CheckFindings(const Findings& findings, const Options& options) {
-    if (options.Expected && findings.Choices != *options.Expected) {
-        std::fprintf(stderr,
-                     "The computer plays differently: the signature should be %016" PRIx64 ".\n",
-                     *options.Expected);
-        return Unexpected;
+    std::array<char, 17> signature{};
+    std::snprintf(signature.data(), signature.size(), "%016" PRIx64, findings.Choices);
+    std::printf("all positions %" PRId64 "\nsignature %s\n", findings.Searched, signature.data());
+    if (!options.Expected.empty() && options.Expected != signature.data()) {
+        std::fprintf(stderr, "The computer plays differently: the signature should be %s.\n",
+                     options.Expected.c_str());
+        return FoundFault;
     }
-    if (options.MostSearched && findings.Searched > *options.MostSearched) {
-        std::fprintf(stderr,
-                     "The search does more work: it looked at %" PRIu64
-                     " positions, more than %" PRIu64 ".\n",
-                     findings.Searched, *options.MostSearched);
-        return Unexpected;
+    if (findings.Searched > options.MostSearched) {
+        std::fprintf(stderr, "The search does more work than %" PRId64 " positions.\n",
+                     options.MostSearched);
+        return FoundFault;
     }
-    return 0;
+    return Done;
+}
+
+int Main(int count, char** texts) {
+    Options options;
+    if (const auto status = ReadOptions(count, texts, options)) return *status;
+    return CheckFindings(BenchLevels(options), options);
 }
 
 }  // namespace
 
-int main(int argc, char** argv) {
-    const std::span<char*> texts(argv + 1, argv + argc);
-    if (std::ranges::find(texts, std::string_view("--help")) != texts.end()) {
-        std::fputs(Usage, stdout);
-        return 0;
-    }
-    Options options;
-    if (const char* complaint = ReadArguments(texts, options)) {
-        std::fprintf(stderr, "brastel-bench: %s\n\n%s", complaint, Usage);
-        return BadArguments;
-    }
-    CompleteOptions(options);
-    return CheckFindings(BenchLevels(options), options);
+int main(int count, char** texts) {
+    return brastel::RunProgram("brastel-bench", Main, count, texts);
 }

@@ -5,11 +5,10 @@
 #include "engine/Candidates.h"
 #include "engine/MoveCode.h"
 #include "engine/Random.h"
-#include "engine/Strengths.h"
 #include "play/GameRecord.h"
 #include "play/GameState.h"
 #include "play/HumanAction.h"
-#include "tools/ReadNumber.h"
+#include "tools/CommandLine.h"
 #include "ui/MainWindow.h"
 
 #include <QApplication>
@@ -24,12 +23,10 @@ namespace {
 
 using namespace brastel;
 
-constexpr const char* Usage = R"(Usage: window_bench [LEVEL...]
-
-Plays 20 games at each LEVEL, 1 to 11 (1, 6 and 11 if none is given), in the real window: Red is
-moved by a player who looks at the next move only, and the computer answers. Prints the longest
-times in milliseconds in which the window handled no event. Needs a display, or
-QT_QPA_PLATFORM=offscreen.
+constexpr const char* Description =
+    R"(Plays 20 games at each LEVEL in the real window: Red is moved by a player who looks at the next
+move only, and the computer answers. Prints the longest times in milliseconds in which the window
+handled no event. Needs a display, or QT_QPA_PLATFORM=offscreen.
 )";
 
 constexpr int GamesPerLevel = 20;
@@ -100,26 +97,13 @@ int PlayGame(MainWindow& window, Int16 level) {
     return Pos.MoveCount - 1;
 }
 
-std::vector<Int16> LevelsFrom(int count, char** texts) {
-    std::vector<Int16> levels;
-    for (int n = 1; n < count; ++n) {
-        const auto level = ReadNumber<Int16>(texts[n], 1, MaxPly);
-        if (!level) return {};
-        levels.push_back(*level);
-    }
-    return levels;
-}
-
-}  // namespace
-
-int main(int argc, char** argv) {
-    const std::vector<Int16> levels =
-        argc == 1 ? std::vector<Int16>{1, 6, 11} : LevelsFrom(argc, argv);
-    if (levels.empty()) {
-        std::fputs(Usage, stderr);
-        return 2;
-    }
-    const QApplication application(argc, argv);
+int Main(int count, char** texts) {
+    CLI::App app(Description, "window_bench");
+    std::vector<Int16> levels{1, 6, MaxPly};
+    app.add_option("LEVEL", levels, "1 to 11, or the name of a strength (1 6 11)")
+        ->transform(IsStrength());
+    if (const auto status = ReadArguments(app, count, texts)) return *status;
+    const QApplication application(count, texts);
     MainWindow window;
     Pulse pulse;
     std::puts("level  games  entries  longest search, ms  longest otherwise, ms");
@@ -132,4 +116,11 @@ int main(int argc, char** argv) {
                     pulse.LongestSearch, pulse.LongestElse);
         std::fflush(stdout);
     }
+    return Done;
+}
+
+}  // namespace
+
+int main(int count, char** texts) {
+    return brastel::RunProgram("window_bench", Main, count, texts);
 }

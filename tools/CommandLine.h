@@ -1,5 +1,6 @@
 #pragma once
 
+#include "core/StartPosition.h"
 #include "engine/Strengths.h"
 #include "tools/ExitStatus.h"
 #include "tools/Printable.h"
@@ -8,7 +9,9 @@
 #include <CLI/CLI.hpp>
 #include <algorithm>
 #include <cerrno>
+#include <csignal>
 #include <cstring>
+#include <exception>
 #include <iostream>
 #include <optional>
 #include <string>
@@ -16,7 +19,7 @@
 #include <utility>
 #include <vector>
 
-/// Reads the arguments of the programs beside the game.
+/// The command line of the programs beside the game.
 namespace brastel {
 
 // ---- Kinds of values, for CLI::Option::transform ----
@@ -51,6 +54,17 @@ inline CLI::Validator IsStrength() {
     return {read, ""};
 }
 
+/// The number of pieces of a start layout.
+inline CLI::Validator IsPieceCount() {
+    const auto read = [](std::string& text) -> std::string {
+        for (int layout = 0; layout < FreeSetupLayout; ++layout) {
+            if (text == std::to_string(LayoutPieces(layout))) return {};
+        }
+        return "\"" + text + "\" is not a number of pieces: use 2, 4, 6, 8, 10 or 12";
+    };
+    return {read, ""};
+}
+
 inline CLI::Validator IsPath() {
     return {[](std::string& text) { return text.empty() ? "the path is empty" : std::string(); },
             ""};
@@ -60,11 +74,11 @@ inline CLI::Validator IsPath() {
 
 /// What the help prints in front of the description, for example "-o, --output PATH".
 inline std::string OptionForm(const CLI::Option& option) {
+    if (option.get_positional()) return option.get_name(true);
     std::string form;
     for (const std::string& name : option.get_snames()) form += "-" + name + ", ";
     for (const std::string& name : option.get_lnames()) form += "--" + name + ", ";
     form.resize(form.size() - std::min<std::size_t>(form.size(), 2));
-    if (option.get_positional()) form = option.get_name(true);
     const bool hasValue = option.get_items_expected_max() > 0;
     return hasValue && !option.get_type_name().empty() ? form + ' ' + option.get_type_name() : form;
 }
@@ -105,13 +119,15 @@ inline std::string WithoutList(std::string argument) {
     return isList ? argument.insert(value, "./") : argument;
 }
 
-/// Reads the arguments. Returns an exit status if the program must end: after printing help, the
-/// version or an error message.
+/// Reads the arguments. The help option, which the program need not add, gets the group that is the
+/// default. Returns an exit status if the program must end: after printing help, the version or an
+/// error message.
 inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* const* texts) {
     std::vector<std::string> arguments(texts + 1, texts + count);
     std::ranges::transform(arguments, arguments.begin(), WithoutList);
     // CLI11 expects the arguments in reverse order.
     std::ranges::reverse(arguments);
+    app.set_help_flag("-h,--help", "show this text");
     app.formatter_fn([&app](auto&&...) { return HelpText(app); });
     try {
         app.parse(arguments);
@@ -127,6 +143,21 @@ inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* co
     std::cerr << app.get_name() << ": cannot write standard output: " << std::strerror(errno)
               << '\n';
     return CannotDo;
+}
+
+// ---- The whole program ----
+
+/// Calls the main function of the program and returns its exit status.
+inline int RunProgram(const char* name, int (*mainFunction)(int, char**), int count, char** texts) {
+    // A write beyond a size limit then fails and does not end the program.
+    std::signal(SIGXFSZ, SIG_IGN);
+    try {
+        return mainFunction(count, texts);
+    } catch (const std::exception& error) {
+        // The only possible cause is lack of memory.
+        std::cerr << name << ": " << error.what() << '\n';
+        return SystemFailed;
+    }
 }
 
 }  // namespace brastel

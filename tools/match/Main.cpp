@@ -1,8 +1,7 @@
 /// The program brastel-match: plays strengths of the computer player against each other.
 
-#include "tools/ExitStatus.h"
+#include "tools/CommandLine.h"
 #include "tools/Interrupt.h"
-#include "tools/Printable.h"
 #include "tools/match/MatchFile.h"
 #include "tools/match/MatchTable.h"
 #include "tools/match/Options.h"
@@ -10,10 +9,8 @@
 #include "tools/match/SavedGames.h"
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstring>
-#include <exception>
 
 namespace {
 
@@ -92,13 +89,4 @@ int Main(int count, char** texts) {
 
 }  // namespace
 
-int main(int count, char** texts) {
-    // A write beyond a size limit then fails and does not end the program.
-    std::signal(SIGXFSZ, SIG_IGN);
-    try {
-        return Main(count, texts);
-    } catch (const std::exception& error) {
-        // The only possible cause is lack of memory.
-        return ReportError(error.what(), SystemFailed);
-    }
-}
+int main(int count, char** texts) { return RunProgram("brastel-match", Main, count, texts); }

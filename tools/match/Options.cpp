@@ -1,6 +1,5 @@
 #include "tools/match/Options.h"
 
-#include "core/StartPosition.h"
 #include "tools/CommandLine.h"
 
 #include <algorithm>
@@ -30,16 +29,6 @@ constexpr std::int64_t MaxGames = 100'000;
 constexpr std::int64_t MaxJobs = 256;
 constexpr std::int64_t MaxRandomMoves = 10;
 constexpr std::int64_t MaxSeed = std::numeric_limits<std::int64_t>::max();
-
-CLI::Validator IsPieceCount() {
-    const auto read = [](std::string& text) -> std::string {
-        for (int layout = 0; layout < FreeSetupLayout; ++layout) {
-            if (text == std::to_string(LayoutPieces(layout))) return {};
-        }
-        return "\"" + text + "\" is not a number of pieces: use 2, 4, 6, 8, 10 or 12";
-    };
-    return {read, ""};
-}
 
 /// Adds an option with a value.
 CLI::Option* Add(CLI::App& app, const char* name, auto& value, const char* kind,
@@ -86,8 +75,7 @@ std::optional<int> ReadOptions(int count, const char* const* texts, Options& opt
     AddMatch(app, options);
     AddFiles(app, options);
     app.option_defaults()->group("Other");
-    app.set_help_flag("-h,--help", "print this text");
-    app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "print the version");
+    app.set_version_flag("--version", "brastel-match " BRASTEL_VERSION, "show the version");
     app.footer(Footer);
     const auto status = ReadArguments(app, count, texts);
     const int cores = static_cast<int>(std::thread::hardware_concurrency());

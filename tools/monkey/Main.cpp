@@ -10,7 +10,7 @@
 #include "testing/RandomSource.h"
 #include "testing/Require.h"
 #include "testing/Sandbox.h"
-#include "tools/ReadNumber.h"
+#include "tools/CommandLine.h"
 #include "tools/monkey/Events.h"
 #include "tools/monkey/Inputs.h"
 #include "tools/monkey/WindowChecks.h"
@@ -39,7 +39,7 @@ constexpr unsigned PatienceSeconds = 60;
 using LoopState = std::pair<int, bool>;
 
 std::int64_t LastEvent = 0;
-unsigned Seed = 0;
+unsigned Seed = 1;
 int Number = 0;
 int InputsInPause = 0;
 LoopState CurrentLoop{0, false};
@@ -170,21 +170,18 @@ void PlayMonkey() {
     OtherWindow = nullptr;
 }
 
-}  // namespace
-
-}  // namespace brastel
-
-int main(int count, char** texts) {
-    using namespace brastel;
+int Main(int count, char** texts) {
     constexpr std::int64_t Plenty = 1'000'000'000;
-    const auto events = ReadNumber(count == 2 || count == 3 ? texts[1] : "", 0, Plenty);
-    const auto seed = ReadNumber(count == 3 ? texts[2] : "1", 0, Plenty);
-    if (!events || !seed) return std::cerr << "Usage: window_monkey INPUTS [SEED]\n", 2;
+    CLI::App app("Sends random inputs to the real window, offscreen.\n", "window_monkey");
+    app.add_option("INPUTS", LastEvent, "inputs to send")
+        ->required()
+        ->transform(IsNumber(0, Plenty));
+    app.add_option("SEED", Seed, "another seed gives other inputs (1)")
+        ->transform(IsNumber(0, Plenty));
+    if (const auto status = ReadArguments(app, count, texts)) return *status;
     EnterSandbox(texts);
     // It saves games anywhere.
     if (!IsInSandbox()) return std::cerr << "Skipped: this system allows no sandbox.\n", 77;
-    LastEvent = *events;
-    Seed = static_cast<unsigned>(*seed);
     std::filesystem::copy(BRASTEL_TEST_DATA, GamesFolder, std::filesystem::copy_options::recursive);
     std::filesystem::current_path(GamesFolder);
     qputenv("QT_QPA_PLATFORM", "offscreen");
@@ -196,4 +193,13 @@ int main(int count, char** texts) {
     QApplication::setQuitOnLastWindowClosed(false);
     PlayMonkey();
     std::cout << Number << " inputs, seed " << Seed << "\n";
+    return Done;
+}
+
+}  // namespace
+
+}  // namespace brastel
+
+int main(int count, char** texts) {
+    return brastel::RunProgram("window_monkey", brastel::Main, count, texts);
 }

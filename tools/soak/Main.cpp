@@ -5,7 +5,7 @@
 #include "testing/Positions.h"
 #include "testing/RandomSource.h"
 #include "testing/Require.h"
-#include "tools/ReadNumber.h"
+#include "tools/CommandLine.h"
 
 #include <iostream>
 
@@ -13,11 +13,10 @@ namespace {
 
 using namespace brastel;
 
-constexpr std::string_view Usage = R"(Usage: brastel-soak GAMES [SEED]
-Plays GAMES games of random gestures, the first by the dice of SEED (1), the next
-by those of SEED + 1, and so on. Checks everything after each gesture. Prints how
-often everything happened. Status 1 at the first fault, and if some kind of event
-never happened in 500 games; 2 for bad arguments.
+constexpr const char* Description =
+    R"(Plays games of random gestures and checks everything after each gesture. Prints how often each
+kind of event happened. Status 1 at the first fault, and if a kind of event never happened in 500
+games.
 )";
 
 constexpr int GesturesOfGame = 150;
@@ -34,15 +33,23 @@ void PlayGame(std::int64_t seed) try {
     std::exit(EXIT_FAILURE);
 }
 
+int Main(int count, char** texts) {
+    constexpr std::int64_t Plenty = 1'000'000'000;
+    std::int64_t games = 0;
+    std::int64_t seed = 1;
+    CLI::App app(Description, "brastel-soak");
+    app.add_option("GAMES", games, "games to play")->required()->transform(IsNumber(1, Plenty));
+    app.add_option("SEED", seed, "seed of the first game; the next has the next seed (1)")
+        ->transform(IsNumber(0, Plenty));
+    if (const auto status = ReadArguments(app, count, texts)) return *status;
+    for (std::int64_t game = 0; game < games; ++game) PlayGame(seed + game);
+    for (const auto& [kind, times] : Tally) std::cout << times << "  " << kind << '\n';
+    // A long run without some kind of event has tested nothing of that kind.
+    return games >= EnoughGames && Tally.size() < KindsOfEvent ? FoundFault : Done;
+}
+
 }  // namespace
 
 int main(int count, char** texts) {
-    constexpr std::int64_t Plenty = 1'000'000'000;
-    const auto games = ReadNumber(count == 2 || count == 3 ? texts[1] : "", 1, Plenty);
-    const auto seed = ReadNumber(count == 3 ? texts[2] : "1", 0, Plenty);
-    if (!games || !seed) return std::cerr << Usage, 2;
-    for (std::int64_t game = 0; game < *games; ++game) PlayGame(*seed + game);
-    for (const auto& [kind, times] : Tally) std::cout << times << "  " << kind << '\n';
-    // A long run without some kind of event has tested nothing of that kind.
-    return *games >= EnoughGames && Tally.size() < KindsOfEvent ? EXIT_FAILURE : EXIT_SUCCESS;
+    return brastel::RunProgram("brastel-soak", Main, count, texts);
 }
