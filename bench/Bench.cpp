@@ -27,8 +27,8 @@ namespace {
 using namespace brastel;
 
 constexpr const char* Description =
-    R"(Times the computer's choice at each LEVEL in positions from real games. The last line is the
-signature of the choices: equal play, equal signature.
+    R"(Times the computer's choice at each LEVEL in positions from real games. The last
+line is the signature of the choices: equal play, equal signature.
 )";
 
 // ---- The signature ----

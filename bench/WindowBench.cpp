@@ -24,9 +24,10 @@ namespace {
 using namespace brastel;
 
 constexpr const char* Description =
-    R"(Plays 20 games at each LEVEL in the real window: Red is moved by a player who looks at the next
-move only, and the computer answers. Prints the longest times in milliseconds in which the window
-handled no event. Needs a display, or QT_QPA_PLATFORM=offscreen.
+    R"(Plays 20 games at each LEVEL in the real window: Red is moved by a player who
+looks at the next move only, and the computer answers. Prints the longest times
+in milliseconds in which the window handled no event. Needs a display, or
+QT_QPA_PLATFORM=offscreen.
 )";
 
 constexpr int GamesPerLevel = 20;

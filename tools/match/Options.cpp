@@ -11,8 +11,9 @@ namespace brastel {
 namespace {
 
 constexpr const char* Description =
-    "Plays games of one strength of the computer player against another and prints the result.\n"
-    "Each game depends only on the options and its number.\n";
+    R"(Plays games of one strength of the computer player against another and prints
+the result. Each game depends only on the options and its number.
+)";
 
 constexpr const char* Footer = R"(A STRENGTH is a number from 1 to 11 or a name from Easy to God.
 
@@ -21,8 +22,9 @@ Examples:
   brastel-match --red Expert --blue Master --pieces 12 --games 10 --save games
   brastel-match --red God --blue King --games 400 --csv god.csv --resume
 
-Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written, 3 the
-system failed. An interrupt ends the program by its signal. More in brastel-match(6).
+Exit status: 0 done, 2 wrong arguments or a path that cannot be read or written,
+3 the system failed. An interrupt ends the program by its signal. More in
+brastel-match(6).
 )";
 
 constexpr std::int64_t MaxGames = 100'000;
@@ -44,14 +46,14 @@ void AddMatch(CLI::App& app, Options& options) {
     Add(app, "--blue", terms.Second, "STRENGTH", IsStrength(),
         "strength of Blue in the first game (3)");
     app.add_flag("--no-alternate{false}", terms.Alternates,
-                 "the same colours in every game, each game with its own opening");
+                 "same colours in every game, and an opening for each game");
     Add(app, "--games", options.Run.Games, "N", IsNumber(1, MaxGames), "games to play (100)");
     Add(app, "--pieces", terms.Pieces, "N", IsPieceCount(),
         "pieces a side: 2, 4, 6, 8, 10 or 12 (8)");
     Add(app, "--random-moves", terms.RandomMoves, "N", IsNumber(0, MaxRandomMoves),
         "random moves of each side at the beginning, 0 to 10 (2)");
     Add(app, "--seed", terms.Seed, "N", IsNumber(0, MaxSeed),
-        "seed of the random numbers; another seed gives other games (1)");
+        "seed of the random numbers; another gives other games (1)");
     Add(app, "--jobs", options.Run.Jobs, "N", IsNumber(0, MaxJobs),
         "games to play at the same time; 0: one on each core (1)");
 }

@@ -14,9 +14,9 @@ namespace {
 using namespace brastel;
 
 constexpr const char* Description =
-    R"(Plays games of random gestures and checks everything after each gesture. Prints how often each
-kind of event happened. Status 1 at the first fault, and if a kind of event never happened in 500
-games.
+    R"(Plays games of random gestures and checks everything after each gesture. Prints
+how often each kind of event happened. Status 1 at the first fault, and if a
+kind of event never happened in 500 games.
 )";
 
 constexpr int GesturesOfGame = 150;
