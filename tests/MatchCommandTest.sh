@@ -22,8 +22,6 @@ expect 2 '' '*--save*' --save ''
 expect 2 '' '*flag override*' --no-alternate=no
 expect 2 '' '*file: Not a directory*' --csv new --save file
 expect 2 '' '*file exists*' --csv file
-expect 2 '' '*run is not an ordinary file*' --csv run --resume
-expect 2 '' '*none/c: No such file or directory*' --csv none/c --resume
 expect 2 '' '*no\\x1b\\xc2\\x9bne/t: No such file or directory*' --save $'no\e\xc2\x9bne/t'
 [ "$(echo *)$(<file)" = "err file out run" ] || fail "left behind: $(echo *)"
 
@@ -52,7 +50,6 @@ done
 expect_full --red 1 --blue 1 --games 2
 expect_full --help
 expect 2 '*' '*cannot write /dev/full: No space*' --csv /dev/full --force
-expect_too_large "brastel-match: cannot write new.csv" --csv new.csv
 # One file may be open besides the standard ones, so that libraries are found and no pipe is made.
 # The sanitizers need pipes themselves.
 no_pipe='exec 3>&- 4>&- 5>&- 6>&- 7>&- 8>&- 9>&-; ulimit -n 4; exec "$0" --red 1 --blue 1 --games 2'

@@ -25,30 +25,27 @@ TEST(MatchTest, EloDifferenceIsTheOneWorkedOutByHand) {
     EXPECT_EQ(EloFrom(std::vector<double>(10, 0)), "< -183");
 }
 
-/// Both sides take a millisecond for each move; the worst move takes the number of the game.
+/// Each move after the opening takes a millisecond.
 MatchGame Game(int number, Int16 winner, Int16 entries, std::uint64_t hash) {
-    const std::int64_t red = (entries - 5) / 2;
-    const std::int64_t blue = (entries - 6) / 2;
-    return {number, winner, entries, hash, {red * 1000000, number}, {blue * 1000000, number}, 0};
+    constexpr std::int64_t Millisecond = 1'000'000;
+    const ThinkingTime red{(entries - 5) / 2 * Millisecond, 0};
+    const ThinkingTime blue{(entries - 6) / 2 * Millisecond, 0};
+    return {number, winner, entries, hash, red, blue, 0};
 }
 
 TEST(MatchTest, ScoreIsSeenFromTheFirstStrength) {
-    MatchGames games;
-    for (const MatchGame& game :
-         {Game(1, Red, 7, 1), Game(2, Red, 7, 1), Game(3, Blue, 8, 2), Game(4, Blue, 8, 3),
-          Game(5, Empty, 200, 4), Game(6, Blue, 9, 5)}) {
-        games.emplace(game.Number, game);
-    }
+    MatchGames games{{1, Game(1, Red, 7, 1)},     {2, Game(2, Red, 7, 1)},
+                     {3, Game(3, Blue, 8, 2)},    {4, Game(4, Blue, 8, 3)},
+                     {5, Game(5, Empty, 200, 4)}, {6, Game(6, Blue, 9, 5)}};
     MatchTerms terms;
     const MatchScore score = ScoreOf(terms, games);
-    const std::array<int, 7> counts{score.Games,         score.Wins,      score.Draws,
-                                    score.Losses,        score.WinsAsRed, score.LossesAsRed,
-                                    score.DifferentGames};
-    EXPECT_EQ(counts, (std::array<int, 7>{6, 3, 1, 2, 1, 1, 5}));
+    EXPECT_EQ((std::array{score.Games, score.Wins, score.Draws, score.Losses, score.WinsAsRed,
+                          score.LossesAsRed, score.DifferentGames}),
+              (std::array{6, 3, 1, 2, 1, 1, 5}));
     EXPECT_NEAR(score.MeanLength, 239 / 6.0, 1e-9);
     EXPECT_EQ(EloText(score.Difference), EloFrom({.5, .5, .75})) << "a result for each pair";
-    EXPECT_DOUBLE_EQ(score.First.Mean, 1) << "of the moves after the opening";
-    EXPECT_DOUBLE_EQ(score.Second.Mean, 1);
+    EXPECT_EQ(score.First.Mean, score.Second.Mean);
+    EXPECT_EQ(score.First.Mean, 1);
     terms.Alternates = false;
     EXPECT_EQ(EloText(ScoreOf(terms, games).Difference), EloFrom({1, 1, 0, 0, .5, 0}));
     EXPECT_EQ(EloText(ScoreOf(terms, {games.begin(), games.find(5)}).Difference), "unknown");

@@ -145,6 +145,22 @@ inline std::optional<int> ReadArguments(CLI::App& app, int count, const char* co
     return CannotDo;
 }
 
+/// The arguments of a program that repeats something random.
+struct RandomRun {
+    std::int64_t Times = 0;
+    std::int64_t Seed = 1;
+};
+
+/// Like ReadArguments, after it has added these arguments. `what` is the name of the first one.
+inline std::optional<int> ReadRandomRun(CLI::App& app, const char* what, RandomRun& run, int count,
+                                        const char* const* texts) {
+    constexpr std::int64_t Plenty = 1'000'000'000;
+    app.add_option(what, run.Times, "how many")->required()->transform(IsNumber(1, Plenty));
+    app.add_option("SEED", run.Seed, "seed of the random numbers (1)")
+        ->transform(IsNumber(0, Plenty));
+    return ReadArguments(app, count, texts);
+}
+
 // ---- The whole program ----
 
 /// Calls the main function of the program and returns its exit status.

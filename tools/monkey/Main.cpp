@@ -38,8 +38,7 @@ constexpr unsigned PatienceSeconds = 60;
 /// dialog or starts a search is not over yet when other inputs come in there.
 using LoopState = std::pair<int, bool>;
 
-std::int64_t LastEvent = 0;
-unsigned Seed = 1;
+RandomRun Run;
 int Number = 0;
 int InputsInPause = 0;
 LoopState CurrentLoop{0, false};
@@ -49,7 +48,8 @@ bool IsSettling = false;
 /// that fit into a pause (part 1 and more) differ from run to run, and must not change those after.
 void BeginEvent(int part) {
     InputsInPause = part;
-    RandomSource = Dice(Seed * 1000003U + static_cast<unsigned>(Number * 64 + part));
+    RandomSource = Dice(static_cast<unsigned>(Run.Seed) * 1000003U +
+                        static_cast<unsigned>(Number * 64 + part));
     SeedRandom(static_cast<std::uint32_t>(RandomSource()));
     EventName = std::to_string(Number) + (part > 0 ? " while thinking: " : ": ");
 }
@@ -103,7 +103,7 @@ void Settle() {
     CheckRest();
     CheckPicture();
     std::filesystem::current_path(GamesFolder);
-    if (Level <= TopLevel && Number >= LastEvent) return Close();
+    if (Level <= TopLevel && Number >= Run.Times) return Close();
     PlayCheckedGesture();
 }
 
@@ -112,7 +112,7 @@ void Settle() {
 void ActHere() {
     ++Number;
     BeginEvent(0);
-    if (Level > TopLevel || Number >= LastEvent || OneIn(InputsBetweenChecks)) IsSettling = true;
+    if (Level > TopLevel || Number >= Run.Times || OneIn(InputsBetweenChecks)) IsSettling = true;
     if (!IsSettling) alarm(PatienceSeconds);
     IsSettling ? Settle() : SendAnything();
     if (GameWindow->IsClosing()) return;
@@ -157,7 +157,7 @@ void PlayMonkey() {
         Tick();
     });
     StatusLine = [] { return GameWindow->findChild<QLabel*>("lbl_Message")->text().toStdString(); };
-    while (Number < LastEvent) {
+    while (Number < Run.Times) {
         MainWindow window;
         GameWindow = &window;
         window.OpenMainWindow();
@@ -171,14 +171,8 @@ void PlayMonkey() {
 }
 
 int Main(int count, char** texts) {
-    constexpr std::int64_t Plenty = 1'000'000'000;
     CLI::App app("Sends random inputs to the real window, offscreen.\n", "window_monkey");
-    app.add_option("INPUTS", LastEvent, "inputs to send")
-        ->required()
-        ->transform(IsNumber(0, Plenty));
-    app.add_option("SEED", Seed, "another seed gives other inputs (1)")
-        ->transform(IsNumber(0, Plenty));
-    if (const auto status = ReadArguments(app, count, texts)) return *status;
+    if (const auto status = ReadRandomRun(app, "INPUTS", Run, count, texts)) return *status;
     EnterSandbox(texts);
     // It saves games anywhere.
     if (!IsInSandbox()) return std::cerr << "Skipped: this system allows no sandbox.\n", 77;
@@ -192,7 +186,7 @@ int Main(int count, char** texts) {
     const QApplication application(oneName, texts);
     QApplication::setQuitOnLastWindowClosed(false);
     PlayMonkey();
-    std::cout << Number << " inputs, seed " << Seed << "\n";
+    std::cout << Number << " inputs, seed " << Run.Seed << "\n";
     return Done;
 }
 

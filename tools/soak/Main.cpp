@@ -34,18 +34,13 @@ void PlayGame(std::int64_t seed) try {
 }
 
 int Main(int count, char** texts) {
-    constexpr std::int64_t Plenty = 1'000'000'000;
-    std::int64_t games = 0;
-    std::int64_t seed = 1;
     CLI::App app(Description, "brastel-soak");
-    app.add_option("GAMES", games, "games to play")->required()->transform(IsNumber(1, Plenty));
-    app.add_option("SEED", seed, "seed of the first game; the next has the next seed (1)")
-        ->transform(IsNumber(0, Plenty));
-    if (const auto status = ReadArguments(app, count, texts)) return *status;
-    for (std::int64_t game = 0; game < games; ++game) PlayGame(seed + game);
+    RandomRun run;
+    if (const auto status = ReadRandomRun(app, "GAMES", run, count, texts)) return *status;
+    for (std::int64_t game = 0; game < run.Times; ++game) PlayGame(run.Seed + game);
     for (const auto& [kind, times] : Tally) std::cout << times << "  " << kind << '\n';
     // A long run without some kind of event has tested nothing of that kind.
-    return games >= EnoughGames && Tally.size() < KindsOfEvent ? FoundFault : Done;
+    return run.Times >= EnoughGames && Tally.size() < KindsOfEvent ? FoundFault : Done;
 }
 
 }  // namespace
