@@ -70,8 +70,8 @@ TEST(RecordCheckTest, ReviewsAgreeWithTheComputer) {
         const GameReview review = ReviewGame(ReadRecordedGame("game"), depth);
         ASSERT_EQ(review.Entries.size(), values.size());
         for (std::size_t n = RingCount; n < values.size(); ++n) {
-            EXPECT_EQ(review.Entries[n].Made->Played, values[n]) << depth << ' ' << n;
-            EXPECT_EQ(review.Entries[n].Made->Loss, 0) << depth << ' ' << n;
+            EXPECT_EQ(review.Entries[n].Value, values[n]) << depth << ' ' << n;
+            EXPECT_EQ(review.Entries[n].Loss, 0) << depth << ' ' << n;
         }
     }
 }

@@ -19,7 +19,7 @@ expect 1 'game: 3*broken:23: entry 3 *damaged:10: error 5: *' '' game broken dam
 printf '1 1\r\n\n\r 4 x' >lines
 expect 2 'lines:4: error 4: this is no number
 *:23: error 3: the file ends before its last value
-*/00-free-setup-before-the-pieces.txt: 0 entries, Red to move' '*/data: not an ordinary file' \
+*/00-free-setup-before-the-pieces.txt: 0 entries, Red to move' '*/data: Is a directory' \
     lines "$Data"/damaged/03-half*missing.txt "$Data"/good/00-free*.txt "$Data"
 expect 2 'game: 3*' 'brastel-record: missing: No such file or directory' missing game
 expect 1 'damaged:10: error 5: *' '' --moves damaged
@@ -44,7 +44,7 @@ expect 0 'After entry 3: Red wins*' '' --at end won
 expect 0 '<svg *<title>After entry 1: *row 14, column 5: Blue?s goal, a ring</title>*</svg>' '' --at 1 --svg won
 expect 1 'After entry 6: Red to move*' 'broken:23: entry 3 *' --at 6 broken
 expect 1 '' 'damaged:10: *' --at 1 damaged
-expect 2 '' 'brastel-record: game: no position after entry 4: the last entry is 3' --at 4 game
+expect 2 '' 'brastel-record: game: no position after entry 4, the last one is after entry 3' --at 4 game
 expect 0 'standard input: 3 entries*' '' -o - - <game
 expect 1 '*: 3 entries, *standard input:1: error 10: *' '' <(cat game) - </dev/zero
 # A file name after --review is no strength.

@@ -6,7 +6,7 @@
 #include "tools/Interrupt.h"
 #include "tools/ReadNumber.h"
 #include "tools/record/Report.h"
-#include "tools/record/ReviewReport.h"
+#include "tools/record/Review.h"
 #include "tools/record/SvgBoard.h"
 
 #include <cerrno>
@@ -20,14 +20,14 @@ namespace {
 using namespace brastel;
 
 constexpr const char* Description =
-    R"(Checks record files that Brastel writes with Options > Save Game: can they be read, and does
-every entry follow the rules? Also prints games in words, draws their positions and tells which
-moves were mistakes.
+    R"(Checks record files that Brastel writes with Options > Save Game: can they be
+read, and does every entry follow the rules? Also prints games in words, draws
+their positions and finds mistakes.
 )";
 
 constexpr const char* Examples =
-    R"(FILE and PATH can be - for standard input and standard output. STRENGTH is a number from 1 to 11
-or a name from Easy to God.
+    R"(FILE and PATH can be - for standard input and standard output. STRENGTH is a
+number from 1 to 11 or a name from Easy to God.
 
 Examples:
   brastel-record game.txt                        is the file correct?
@@ -38,9 +38,9 @@ Examples:
   brastel-record --review game.txt               which moves were mistakes?
   brastel-record --review God --svg -o curve.svg game.txt
 
-Status: 0 if everything is correct; 1 if a file is damaged or an entry breaks the rules; 2 if
-arguments are wrong or a file cannot be read or written; 3 if the system failed; 130 after an
-interrupt.
+Status: 0 if everything is correct; 1 if a file is damaged or an entry breaks
+the rules; 2 if arguments are wrong or a file cannot be read or written; 3 if
+the system failed; 130 in a shell after an interrupt.
 )";
 
 struct Options {
@@ -70,11 +70,10 @@ std::string CheckAt(const std::string& text) {
 void Declare(CLI::App& app, Options& options) {
     app.add_option("FILE", options.Files, "record files to read")->required()->type_name("");
     auto* moves = app.add_flag("--moves", options.Moves, "print the game entry by entry in words");
-    auto* at = app.add_option("--at", options.At,
-                              "draw the position after N entries (0: the start; end: the last)");
-    at->type_name("N")->check(CheckAt)->excludes(moves);
+    auto* at = app.add_option("--at", options.At, "draw the position after N entries");
+    at->type_name("N|end")->check(CheckAt)->excludes(moves);
     auto* review = app.add_option("--review", options.Review,
-                                  "compare each move with the computer's best one (at King)");
+                                  "compare each move with the computer's best (King)");
     review->type_name("[STRENGTH]")->transform(IsStrength())->excludes(moves)->excludes(at);
     auto* svg = app.add_flag("--svg", options.Svg, "draw an SVG picture instead of text");
     app.add_flag("--json", options.Json, "print the review as JSON")->needs(review)->excludes(svg);
@@ -137,29 +136,16 @@ bool WriteOutput(const Options& options, const std::string& text) {
 
 // ---- Reports: each adds its text and returns an exit status ----
 
-std::string Picture(const Options& options, const RecordedGame& game, int entry) {
-    return options.Svg
-               ? BoardAsSvg(game.Positions[static_cast<std::size_t>(entry)], Caption(game, entry))
-               : Drawing(game, entry);
-}
-
-std::string NoSuchPosition(const RecordedGame& game, int entry) {
-    const int entries = static_cast<int>(game.Entries.size());
-    const std::string asked = "no position after entry " + std::to_string(entry) + ": ";
-    return game.Path + ": " + asked +
-           (entry > entries
-                ? "the last entry is " + std::to_string(entries)
-                : "the game cannot go on after entry " + std::to_string(game.PlayedEntries()));
-}
-
 int Draw(const Options& options, const RecordedGame& game, std::string& text) {
     const auto number = ReadNumber(options.At, 0, MaxEntries);
     const int entry = number ? static_cast<int>(*number) : game.PlayedEntries();
     if (entry > game.PlayedEntries()) {
-        ReportError(NoSuchPosition(game, entry));
+        ReportError(game.Path + ": no position after entry " + options.At +
+                    ", the last one is after entry " + std::to_string(game.PlayedEntries()));
         return CannotDo;
     }
-    text += Picture(options, game, entry);
+    const Position& position = game.Positions[static_cast<std::size_t>(entry)];
+    text += options.Svg ? BoardAsSvg(position, Caption(game, entry)) : Drawing(game, entry);
     return game.IsLegal() ? Done : FoundFault;
 }
 

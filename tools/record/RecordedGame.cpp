@@ -11,7 +11,6 @@
 #include <array>
 #include <cerrno>
 #include <fcntl.h>
-#include <filesystem>
 #include <sys/mman.h>
 #include <unistd.h>
 #include <utility>
@@ -24,34 +23,30 @@ namespace {
 
 constexpr std::string_view StandardInput = "-";
 
-bool IsStream(const std::string& path) {
-    std::error_code ignored;
-    const auto type = std::filesystem::status(path, ignored).type();
-    return path == StandardInput || type == std::filesystem::file_type::fifo ||
-           type == std::filesystem::file_type::character;
-}
-
-/// Copies at most one part more than MaxFileSize. Returns false and sets errno after a failure, and
-/// if a signal came.
-bool CopyStream(const OpenFile& from, const OpenFile& to) {
-    std::array<char, 4096> part{};
-    ssize_t count = from.IsOpen() && to.IsOpen() ? 1 : -1;
-    for (std::size_t length = 0; count > 0 && length <= MaxFileSize;
-         length += static_cast<std::size_t>(count)) {
-        count = read(from.Descriptor(), part.data(), part.size());
-        if (count > 0) count = write(to.Descriptor(), part.data(), static_cast<std::size_t>(count));
-    }
-    return count >= 0;
-}
-
-/// ReadGameFile reads only ordinary files. So the stream is copied to a file in memory.
+/// ReadGameFile reads only ordinary files. So the stream is copied to a file in memory, with at
+/// most one part more than MaxFileSize. A signal ends the copy with an error.
 GameReading ReadStream(const std::string& path) {
     const OpenFile stream(path == StandardInput
                               ? dup(STDIN_FILENO)
                               : open(path.c_str(), O_RDONLY | O_NOCTTY | O_CLOEXEC));
     const OpenFile copy(memfd_create("record", MFD_CLOEXEC));
-    if (!CopyStream(stream, copy)) return {FileErrorFromSystem(errno), "", 0, errno, {}};
+    std::array<char, 4096> part{};
+    std::size_t length = 0;
+    ssize_t count = stream.IsOpen() && copy.IsOpen() ? 1 : -1;
+    while (count > 0 && length <= MaxFileSize) {
+        count = read(stream.Descriptor(), part.data(), part.size());
+        if (count > 0)
+            count = write(copy.Descriptor(), part.data(), static_cast<std::size_t>(count));
+        length += static_cast<std::size_t>(count);
+    }
+    if (count < 0) return {FileErrorFromSystem(errno), "", 0, errno, {}};
     return ReadGameFile("/proc/self/fd/" + std::to_string(copy.Descriptor()));
+}
+
+GameReading ReadRecord(const std::string& path) {
+    if (path == StandardInput) return ReadStream(path);
+    const GameReading reading = ReadGameFile(path);
+    return reading.Error == FileError::NotAFile ? ReadStream(path) : reading;
 }
 
 // ---- Histories ----
@@ -67,14 +62,14 @@ enum class Returns {
     NearAction,
 };
 
-History Extended(const History& history, const RecordedEntry& entry, Returns returns) {
+History Extended(const History& history, const Action& entry, Returns returns) {
     History longer = history;
     Pos = history.back();
     if (returns == Returns::All) {
-        ApplyMoveShown(entry.Played);
+        ApplyMoveShown(entry);
         CountEntry();
     } else {
-        ReplayEntry(entry.Played);
+        ReplayEntry(entry);
     }
     longer.push_back(Pos);
     return longer;
@@ -97,13 +92,13 @@ public:
 
     /// Plays the entry and returns an empty text, or returns the rule that it breaks in all
     /// histories.
-    std::string_view Play(const RecordedEntry& entry) {
+    std::string_view Play(const Action& entry) {
         std::vector<History> next;
         std::string_view cause;
         for (const History& history : Histories) {
             Pos = history.back();
             const bool isPlacement = !BothRingsPlaced();
-            const std::string_view broken = BrokenRule(entry.Played);
+            const std::string_view broken = BrokenRule(entry);
             if (cause.empty()) cause = broken;
             if (!broken.empty()) continue;
             AddNew(next, Extended(history, entry, Returns::All));
@@ -126,12 +121,11 @@ private:
 
 void PlayLegalEntries(RecordedGame& game) {
     LegalHistories histories(Pos);
-    for (const RecordedEntry& entry : game.Entries) {
-        game.Cause = histories.Play(entry);
+    for (int k = 1; k <= std::ssize(game.Entries) && game.Cause.empty(); ++k) {
+        game.Cause = histories.Play(game.Entries[static_cast<std::size_t>(k - 1)]);
         if (game.Cause.empty()) continue;
-        game.Line = entry.Line;
-        game.BrokenEntry = static_cast<int>(histories.First().size());
-        break;
+        game.BrokenEntry = k;
+        game.Line = game.EntryLine[k];
     }
     game.Positions = histories.First();
 }
@@ -139,10 +133,10 @@ void PlayLegalEntries(RecordedGame& game) {
 /// Plays the other entries like Forward, which plays every entry that fits, also against the rules.
 void PlayOn(RecordedGame& game) {
     while (game.Positions.size() <= game.Entries.size()) {
-        const RecordedEntry& entry = game.Entries[game.Positions.size() - 1];
+        const Action& entry = game.Entries[game.Positions.size() - 1];
         Pos = game.Positions.back();
-        if (!ActionFits(entry.Played)) return;
-        ApplyMoveShown(entry.Played);
+        if (!ActionFits(entry)) return;
+        ApplyMoveShown(entry);
         CountEntry();
         game.Positions.push_back(Pos);
     }
@@ -162,16 +156,10 @@ void FindWin(RecordedGame& game) {
 
 RecordedGame ReadRecordedGame(const std::string& path) {
     RecordedGame game;
-    const GameReading reading = IsStream(path) ? ReadStream(path) : ReadGameFile(path);
+    static_cast<GameReading&>(game) = ReadRecord(path);
     game.Path = path == StandardInput ? "standard input" : path;
-    game.Error = reading.Error;
-    game.SystemError = reading.SystemError;
-    game.Cause = reading.Cause;
-    game.Line = reading.Line;
-    if (reading.Error != FileError::None) return game;
-    for (int k = 1; k <= LoadedCount; ++k) {
-        game.Entries.push_back({LoadedEntry(k), reading.EntryLine[k]});
-    }
+    if (game.Error != FileError::None) return game;
+    for (int k = 1; k <= LoadedCount; ++k) game.Entries.push_back(LoadedEntry(k));
     SetUpStartPosition();
     PlayLegalEntries(game);
     PlayOn(game);

@@ -4,31 +4,18 @@
 #include "files/GameFile.h"
 
 #include <string>
-#include <string_view>
 #include <vector>
 
 /// A game that was read from its file and played to its end.
 namespace brastel {
 
-struct RecordedEntry {
-    Action Played;
-    /// The line of the file on which it begins.
-    std::int64_t Line;
-};
-
-struct RecordedGame {
+/// After an error of reading, nothing but the members of GameReading and Path is set. Without one,
+/// Cause and Line are those of BrokenEntry.
+struct RecordedGame : GameReading {
     std::string Path;
-    /// The error of reading. After an error, only SystemError, Cause and Line are set.
-    FileError Error = FileError::None;
-    /// The error number of the system (errno), or 0 if no system call failed.
-    int SystemError = 0;
-    /// What is wrong with the file or with BrokenEntry. Empty if nothing is wrong.
-    std::string_view Cause;
-    /// The line of this error.
-    std::int64_t Line = 0;
 
     /// Entry k is Entries[k - 1].
-    std::vector<RecordedEntry> Entries;
+    std::vector<Action> Entries;
     /// The positions after 0, 1, 2 ... entries, as far as Forward can play them. They can go beyond
     /// BrokenEntry.
     std::vector<Position> Positions;

@@ -5,6 +5,8 @@
 #include "tools/Printable.h"
 #include "tools/record/TextBoard.h"
 
+#include <algorithm>
+#include <array>
 #include <cstring>
 
 namespace brastel {
@@ -16,10 +18,6 @@ constexpr std::string_view DrawnInWords = "drawn: the record is full";
 
 const Position& PositionAfter(const RecordedGame& game, int entry) {
     return game.Positions[static_cast<std::size_t>(entry)];
-}
-
-std::string Counted(int count, std::string_view one, std::string_view many) {
-    return std::to_string(count) + ' ' + std::string(count == 1 ? one : many);
 }
 
 bool IsDrawn(const RecordedGame& game) {
@@ -38,8 +36,8 @@ std::string Outcome(const RecordedGame& game) {
 }
 
 /// The two numbers of the entry as in the file.
-std::string AsWritten(const RecordedEntry& entry) {
-    return std::to_string(entry.Played.Origin) + ' ' + std::to_string(entry.Played.Destination);
+std::string AsWritten(const Action& entry) {
+    return std::to_string(entry.Origin) + ' ' + std::to_string(entry.Destination);
 }
 
 std::string NumberOf(int entry) {
@@ -55,16 +53,16 @@ std::string WithSide(int side, const std::string& words) {
 }
 
 std::string FileEntryInWords(const RecordedGame& game, int entry) {
-    const RecordedEntry& broken = game.Entries[static_cast<std::size_t>(entry) - 1];
+    const Action& broken = game.Entries[static_cast<std::size_t>(entry) - 1];
     const std::string side = SideInWords(PositionAfter(game, entry - 1).SideToMove);
     if (entry <= RingCount) {
-        return side + (IsOnBoard(broken.Played.Origin)
-                           ? " places the ring on " + SquareInWords(broken.Played.Origin)
+        return side + (IsOnBoard(broken.Origin)
+                           ? " places the ring on " + SquareInWords(broken.Origin)
                            : " gives the ring to no piece");
     }
-    if (broken.Played == NullMove) return side + " passes";
-    return side + " from " + SquareInWords(broken.Played.Origin) + " to " +
-           SquareInWords(broken.Played.Destination);
+    if (broken == NullMove) return side + " passes";
+    return side + " from " + SquareInWords(broken.Origin) + " to " +
+           SquareInWords(broken.Destination);
 }
 
 std::string BrokenEntryLine(const RecordedGame& game) {
@@ -86,15 +84,9 @@ std::string FailureInWords(FileError error, int systemError) {
 }
 
 bool IsUnreadable(const RecordedGame& game) {
-    switch (game.Error) {
-        case FileError::FileNotFound:
-        case FileError::PathNotAccessible:
-        case FileError::NotAFile:
-        case FileError::SystemFailure:
-            return true;
-        default:
-            return false;
-    }
+    constexpr std::array causes{FileError::FileNotFound, FileError::PathNotAccessible,
+                                FileError::NotAFile, FileError::SystemFailure};
+    return std::ranges::find(causes, game.Error) != causes.end();
 }
 
 std::string ResultLine(const RecordedGame& game) {
@@ -110,8 +102,9 @@ std::string ResultLine(const RecordedGame& game) {
         return place + "entry " + std::to_string(game.BrokenEntry) + " (" + AsWritten(entry) +
                ") breaks the rules: " + cause;
     }
-    const int entries = static_cast<int>(game.Entries.size());
-    return path + ": " + Counted(entries, "entry", "entries") + ", " + Outcome(game);
+    const std::size_t entries = game.Entries.size();
+    const std::string_view noun = entries == 1 ? " entry, " : " entries, ";
+    return path + ": " + std::to_string(entries) + std::string(noun) + Outcome(game);
 }
 
 std::string MovesInWords(const RecordedGame& game) {

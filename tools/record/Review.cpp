@@ -5,37 +5,37 @@
 #include "tools/Interrupt.h"
 
 #include <algorithm>
-#include <functional>
 
 namespace brastel {
 
 namespace {
 
-int LossBetween(int best, int played) {
-    constexpr int most = 100 * UnitsPerPoint;
-    return std::clamp(best, -most, most) - std::clamp(played, -most, most);
-}
+int Counted(int value) { return std::clamp(value, -100 * UnitsPerPoint, 100 * UnitsPerPoint); }
 
-Choice ChoiceOf(const Action& played, Int16 depth) {
-    Action best = PlayableAction(ChooseCandidate(depth));
-    // Without a candidate the computer passes, but people may have a move.
-    if (best == NullMove) best = played;
+/// The entry that was played in the position.
+ReviewedEntry ReviewEntry(const Action& played, Int16 depth) {
+    ReviewedEntry entry{.Side = Pos.SideToMove, .Played = played, .Best = played};
+    if (!BothRingsPlaced() || played == NullMove) return entry;
+    const Action best = PlayableAction(ChooseCandidate(depth));
     const int value = ValueOfAction(played, depth);
-    const int bestValue = std::max(value, best == played ? value : ValueOfAction(best, depth));
-    if (value == bestValue) best = played;
-    const int forRed = -Pos.SideToMove;
-    return {forRed * value, forRed * bestValue, best, LossBetween(bestValue, value)};
+    // Without a candidate the computer passes, but people may have a move.
+    const int bestValue = best == NullMove || best == played ? value : ValueOfAction(best, depth);
+    if (bestValue > value) entry.Best = best;
+    entry.HasValue = true;
+    entry.Value = -entry.Side * value;
+    entry.BestValue = -entry.Side * std::max(value, bestValue);
+    entry.Loss = Counted(std::max(value, bestValue)) - Counted(value);
+    return entry;
 }
 
 void MarkWorst(GameReview& review, int side) {
-    std::vector<ReviewedEntry*> losses;
-    for (ReviewedEntry& entry : review.Entries) {
-        if (entry.Side == side && entry.Made && entry.Made->Loss > 0) losses.push_back(&entry);
+    for (int marked = 0; marked < 3; ++marked) {
+        const auto loss = [side](const ReviewedEntry& entry) {
+            return entry.Side == side && !entry.IsWorst ? entry.Loss : 0;
+        };
+        const auto worst = std::ranges::max_element(review.Entries, {}, loss);
+        if (worst != review.Entries.end() && loss(*worst) > 0) worst->IsWorst = true;
     }
-    std::ranges::stable_sort(losses, std::greater(),
-                             [](const ReviewedEntry* entry) { return entry->Made->Loss; });
-    if (losses.size() > MarkedPerSide) losses.resize(MarkedPerSide);
-    for (ReviewedEntry* entry : losses) entry->IsWorst = true;
 }
 
 }  // namespace
@@ -48,10 +48,7 @@ GameReview ReviewGame(const RecordedGame& game, Int16 depth) {
     SeedRandom(1);
     for (int k = 1; k <= end && Interrupted == 0; ++k) {
         Pos = game.Positions[static_cast<std::size_t>(k - 1)];
-        const Action played = game.Entries[static_cast<std::size_t>(k - 1)].Played;
-        ReviewedEntry entry{Pos.SideToMove, played, {}, false};
-        if (BothRingsPlaced() && played != NullMove) entry.Made = ChoiceOf(played, depth);
-        review.Entries.push_back(entry);
+        review.Entries.push_back(ReviewEntry(game.Entries[static_cast<std::size_t>(k - 1)], depth));
     }
     for (const int side : {Red, Blue}) MarkWorst(review, side);
     return review;

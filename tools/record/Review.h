@@ -4,9 +4,11 @@
 #include "tools/record/RecordedGame.h"
 
 #include <cstdlib>
-#include <optional>
+#include <string>
+#include <vector>
 
-/// What the computer thinks of the moves of a game.
+/// What the computer thinks of the moves of a game, as text for people, as JSON for programs and as
+/// a picture.
 namespace brastel {
 
 /// A value that a search gives, in units of 1/101 point. Above 0 is good for Red.
@@ -20,27 +22,21 @@ constexpr Int16 ExpectedWinner(RedValue value) {
     return std::abs(value) < SureValue ? Empty : value > 0 ? Red : Blue;
 }
 
-/// The mover's choice in one position.
-struct Choice {
-    RedValue Played;
-    RedValue Best;
-    /// One of the best moves: the played one if it is among them.
-    Action BestMove;
-    /// What the played move is worth less than the best, in units: from 0. A value beyond 100
-    /// points counts as 100, so that a win that comes later is no loss.
-    int Loss;
-};
-
 struct ReviewedEntry {
     Int16 Side;
     Action Played;
-    /// None for ring placements, which no search values, and for passes.
-    std::optional<Choice> Made;
-    /// One of the MarkedPerSide greatest losses of its side.
+    /// False for ring placements and passes. They have no values and no better move.
+    bool HasValue = false;
+    RedValue Value = 0;
+    RedValue BestValue = 0;
+    /// One of the best moves: the played one if it is among them.
+    Action Best{};
+    /// What the played move is worth less than the best, in units: from 0. A value beyond 100
+    /// points counts as 100, so that a win that comes later is no loss.
+    int Loss = 0;
+    /// One of the three greatest losses of its side.
     bool IsWorst = false;
 };
-
-constexpr std::size_t MarkedPerSide = 3;
 
 struct GameReview {
     Int16 Depth;
@@ -53,5 +49,23 @@ struct GameReview {
 /// best. The review ends before the first entry that breaks the rules, with the win, or early after
 /// an interrupt. Overwrites the current game.
 GameReview ReviewGame(const RecordedGame& game, Int16 depth);
+
+// ---- Reports ----
+
+/// A table of the entries, the worst moves in words, and the sum of each side.
+std::string ReviewAsText(const RecordedGame& game, const GameReview& review);
+
+/// One JSON object. brastel-record(6) describes its fields.
+std::string ReviewAsJson(const GameReview& review);
+
+/// An SVG picture with the curve of the values. The worst moves are marked and have titles for
+/// screen readers.
+std::string ReviewAsSvg(const RecordedGame& game, const GameReview& review);
+
+/// "+1.2", or "Red wins" from SureValue on.
+std::string ValueInWords(RedValue value);
+
+/// "Entry 3 loses 1.2 points: Red piece 3 from row 9, column 4 to row 7, column 4. Better: ...".
+std::string MistakeInWords(const RecordedGame& game, int number, const ReviewedEntry& entry);
 
 }  // namespace brastel

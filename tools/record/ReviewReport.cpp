@@ -1,8 +1,7 @@
-#include "tools/record/ReviewReport.h"
-
 #include "engine/Strengths.h"
 #include "play/Words.h"
 #include "tools/record/Report.h"
+#include "tools/record/Review.h"
 
 #include <cmath>
 #include <iomanip>
@@ -22,6 +21,12 @@ std::string Points(int units, int digits = 1) {
     return text.str();
 }
 
+int LossOf(const GameReview& review, int side) {
+    int sum = 0;
+    for (const ReviewedEntry& entry : review.Entries) sum += entry.Side == side ? entry.Loss : 0;
+    return sum;
+}
+
 // ---- Text ----
 
 std::string ShortSquare(int square) {
@@ -32,42 +37,51 @@ std::string ShortMove(const Action& action) {
     return ShortSquare(action.Origin) + '-' + ShortSquare(action.Destination);
 }
 
-/// An entry without a choice: a ring placement, whose second number means nothing, or a pass.
-std::string OtherEntry(const Action& action) {
-    return action == NullMove ? "pass" : ShortSquare(action.Origin) + " ring";
-}
-
 std::string TableRow(int number, const ReviewedEntry& entry) {
+    const auto [side, played, hasValue, value, bestValue, best, loss, isWorst] = entry;
     std::ostringstream row;
-    row << std::setw(4) << number << ". " << std::left << std::setw(6) << SideInWords(entry.Side);
-    if (!entry.Made) return row.str() + OtherEntry(entry.Played) + '\n';
-    const Choice& made = *entry.Made;
-    row << std::setw(11) << ShortMove(entry.Played) << std::right << std::setw(9)
-        << ValueInWords(made.Played);
-    if (made.BestMove == entry.Played) return row.str() + '\n';
-    row << "   " << std::left << std::setw(11) << ShortMove(made.BestMove) << std::right
-        << std::setw(9) << ValueInWords(made.Best) << std::setw(8) << Points(made.Loss)
-        << (entry.IsWorst ? " *" : "");
-    return row.str() + '\n';
-}
-
-int LossOf(const GameReview& review, int side) {
-    int sum = 0;
-    for (const auto& [mover, played, made, isWorst] : review.Entries) {
-        if (mover == side && made) sum += made->Loss;
+    row << std::setw(4) << number << ". " << std::left << std::setw(6) << SideInWords(side);
+    if (!hasValue) {
+        row << (played == NullMove ? "pass" : ShortSquare(played.Origin) + " ring");
+    } else {
+        row << std::setw(11) << ShortMove(played) << std::right << std::setw(9)
+            << ValueInWords(value);
     }
-    return sum;
+    if (best != played) {
+        row << "   " << std::left << std::setw(11) << ShortMove(best) << std::right << std::setw(9)
+            << ValueInWords(bestValue) << std::setw(8) << Points(loss) << (isWorst ? " *" : "");
+    }
+    return row.str() + '\n';
 }
 
 std::string SideReport(const RecordedGame& game, const GameReview& review, int side) {
     const int loss = LossOf(review, side);
     std::string text = '\n' + SideInWords(side) + " lost " + Points(loss) + " points.";
     text += loss > 0 ? " The worst moves (*):\n" : "\n";
-    for (int k = 1; k <= std::ssize(review.Entries); ++k) {
-        const ReviewedEntry& entry = review.Entries[static_cast<std::size_t>(k - 1)];
-        if (entry.IsWorst && entry.Side == side) text += MistakeInWords(game, review, k) + '\n';
+    int number = 0;
+    for (const ReviewedEntry& entry : review.Entries) {
+        ++number;
+        if (entry.IsWorst && entry.Side == side) text += MistakeInWords(game, number, entry) + '\n';
     }
     return text;
+}
+
+// ---- JSON ----
+
+std::string Pair(const Action& action) {
+    return '[' + std::to_string(action.Origin) + ", " + std::to_string(action.Destination) + ']';
+}
+
+std::string EntryAsJson(int number, const ReviewedEntry& entry) {
+    std::ostringstream json;
+    json << R"({"entry": )" << number << R"(, "side": ")" << SideInWords(entry.Side)
+         << R"(", "played": )" << Pair(entry.Played);
+    if (entry.HasValue) {
+        json << R"(, "value": )" << Points(entry.Value, 2) << R"(, "best": )" << Pair(entry.Best)
+             << R"(, "best_value": )" << Points(entry.BestValue, 2) << R"(, "loss": )"
+             << Points(entry.Loss, 2) << R"(, "worst": )" << (entry.IsWorst ? "true" : "false");
+    }
+    return json.str() + '}';
 }
 
 }  // namespace
@@ -77,12 +91,10 @@ std::string ValueInWords(RedValue value) {
     return value > 0 ? '+' + Points(value) : Points(value);
 }
 
-std::string MistakeInWords(const RecordedGame& game, const GameReview& review, int entry) {
-    const Choice& made = *review.Entries[static_cast<std::size_t>(entry - 1)].Made;
-    return "Entry " + std::to_string(entry) + " loses " + Points(made.Loss) +
-           " points: " + EntryInWords(game, entry) + ". Better: from " +
-           SquareInWords(made.BestMove.Origin) + " to " + SquareInWords(made.BestMove.Destination) +
-           '.';
+std::string MistakeInWords(const RecordedGame& game, int number, const ReviewedEntry& entry) {
+    return "Entry " + std::to_string(number) + " loses " + Points(entry.Loss) +
+           " points: " + EntryInWords(game, number) + ". Better: from " +
+           SquareInWords(entry.Best.Origin) + " to " + SquareInWords(entry.Best.Destination) + '.';
 }
 
 std::string ReviewAsText(const RecordedGame& game, const GameReview& review) {
@@ -94,41 +106,17 @@ std::string ReviewAsText(const RecordedGame& game, const GameReview& review) {
     return text + SideReport(game, review, Red) + SideReport(game, review, Blue);
 }
 
-// ---- JSON ----
-
-namespace {
-
-std::string Pair(const Action& action) {
-    return '[' + std::to_string(action.Origin) + ", " + std::to_string(action.Destination) + ']';
-}
-
-std::string EntryAsJson(int number, const ReviewedEntry& entry) {
-    std::ostringstream json;
-    json << R"(    {"entry": )" << number << R"(, "side": ")" << SideInWords(entry.Side)
-         << R"(", "played": )" << Pair(entry.Played);
-    if (entry.Made) {
-        json << R"(, "value": )" << Points(entry.Made->Played, 2) << R"(, "best": )"
-             << Pair(entry.Made->BestMove) << R"(, "best_value": )" << Points(entry.Made->Best, 2)
-             << R"(, "loss": )" << Points(entry.Made->Loss, 2) << R"(, "worst": )"
-             << (entry.IsWorst ? "true" : "false");
-    }
-    return json.str() + '}';
-}
-
-}  // namespace
-
 std::string ReviewAsJson(const GameReview& review) {
     std::ostringstream json;
-    json << "{\n  \"strength\": \"" << StrengthName(review.Depth)
-         << "\",\n  \"depth\": " << review.Depth << ",\n  \"entries\": [";
+    json << R"({"strength": ")" << StrengthName(review.Depth) << R"(", "depth": )" << review.Depth
+         << ",\n\"lost\": {\"Red\": " << Points(LossOf(review, Red), 2)
+         << ", \"Blue\": " << Points(LossOf(review, Blue), 2) << "},\n\"entries\": [";
     int number = 0;
     for (const ReviewedEntry& entry : review.Entries) {
-        json << (number == 0 ? "\n" : ",\n") << EntryAsJson(number + 1, entry);
-        ++number;
+        json << (number++ == 0 ? "\n" : ",\n");
+        json << EntryAsJson(number, entry);
     }
-    json << "\n  ],\n  \"lost\": {\"Red\": " << Points(LossOf(review, Red), 2)
-         << ", \"Blue\": " << Points(LossOf(review, Blue), 2) << "}\n}\n";
-    return json.str();
+    return json.str() + "\n]}\n";
 }
 
 }  // namespace brastel
