@@ -144,7 +144,8 @@ void SaveGameFile(const std::string& path) {
     }
     if (error != FileError::None) ReportFileError(error);
     std::error_code ignored;
-    if (std::filesystem::equivalent(PathOf(path), PathOf(LoadedFileName), ignored)) StartRead.clear();
+    if (std::filesystem::equivalent(PathOf(path), PathOf(LoadedFileName), ignored))
+        StartRead.clear();
 }
 
 GameReading ReadGameFile(const std::string& path) {

@@ -11,7 +11,7 @@ TestPackages=(libgtest-dev qt6-base-private-dev openbox x11-utils at-spi2-core
     dbus-daemon libglib2.0-bin python3-pyatspi bubblewrap)
 CheckPackages=(clang-format clang-tidy shellcheck)
 FuzzPackages=(clang libclang-rt-dev cmake ninja-build)
-PortablePackages=(clang-16 libc++-16-dev libc++abi-16-dev g++-mingw-w64-x86-64-posix googletest wine
+PortablePackages=(g++ clang-16 libc++-16-dev libc++abi-16-dev g++-mingw-w64-x86-64-posix googletest wine
     wine64 cmake ninja-build)
 IconPackages=(librsvg2-bin)
 PackagingPackages=(dpkg-dev file desktop-file-utils appstream mandoc lintian hicolor-icon-theme)

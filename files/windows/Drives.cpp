@@ -2,6 +2,7 @@
 
 #include "files/PathText.h"
 
+#include <cctype>
 #include <windows.h>
 
 namespace brastel {
@@ -21,7 +22,9 @@ std::vector<std::string> ListDrives() {
 }
 
 std::string DriveOf(const std::vector<std::string>& /*drives*/, std::string_view folder) {
-    return TextOf(PathOf(folder).root_path());
+    std::string drive = TextOf(PathOf(folder).root_path());
+    if (drive.ends_with(":\\")) drive.front() = static_cast<char>(std::toupper(drive.front()));
+    return drive;
 }
 
 }  // namespace brastel

@@ -5,16 +5,20 @@
 
 #include <cerrno>
 #include <fcntl.h>
+#include <process.h>
 #include <unistd.h>
 
 namespace brastel {
 
 namespace {
 
+namespace fs = std::filesystem;
+
 bool WriteAndClose(OpenFile& file, const std::string& text) {
     const auto size = static_cast<unsigned>(text.size());
-    const bool isWritten = write(file.Descriptor(), text.data(), size) == static_cast<int>(size) &&
-                           _commit(file.Descriptor()) == 0;
+    const int written = write(file.Descriptor(), text.data(), size);
+    if (written >= 0 && std::cmp_less(written, size)) errno = ENOSPC;
+    const bool isWritten = std::cmp_equal(written, size) && _commit(file.Descriptor()) == 0;
     return file.Close() && isWritten;
 }
 
@@ -29,22 +33,22 @@ FileError CreateTextFile(const std::string& path, const std::string& text) {
 
 /// The text is written to a new file beside the old one, which then takes its name in one step.
 FileError WriteTextFile(const std::string& path, const std::string& text) {
-    namespace fs = std::filesystem;
     std::error_code error;
-    if (const auto status = fs::status(PathOf(path), error);
-        exists(status) && !is_regular_file(status))
+    const fs::path target = fs::weakly_canonical(PathOf(path), error);
+    if (const auto status = fs::status(target, error); exists(status) && !is_regular_file(status))
         return FileError::NotAFile;
-    const std::string draft = path + ".brastel-draft";
-    fs::remove(PathOf(draft), error);
-    const FileError failure = CreateTextFile(draft, text);
-    if (failure != FileError::None) return failure;
-    fs::rename(PathOf(draft), PathOf(path), error);
-    if (!error) return FileError::None;
-    errno = error.default_error_condition().value();
+    const std::string draft = TextOf(target) + ".brastel-" + std::to_string(_getpid());
+    FileError failure = CreateTextFile(draft, text);
+    if (failure == FileError::None) {
+        fs::rename(PathOf(draft), target, error);
+        if (!error) return FileError::None;
+        errno = error.default_error_condition().value();
+        failure = FileErrorFromSystem(errno);
+    }
     const int systemError = errno;
     fs::remove(PathOf(draft), error);
     errno = systemError;
-    return FileErrorFromSystem(systemError);
+    return failure;
 }
 
 }  // namespace brastel
