@@ -1,6 +1,5 @@
 # Reads the newest release from CHANGELOG.md and sets:
 #   ReleaseDate     2026-11-23
-#   ReleaseDay      November 23, 2026
 #   ReleaseChanges  an AppStream list, an item for each change
 set_property(DIRECTORY APPEND PROPERTY CMAKE_CONFIGURE_DEPENDS ${PROJECT_SOURCE_DIR}/CHANGELOG.md)
 file(READ ${PROJECT_SOURCE_DIR}/CHANGELOG.md Changelog)
@@ -10,12 +9,6 @@ endif()
 set(ReleaseVersion ${CMAKE_MATCH_1})
 set(ReleaseDate ${CMAKE_MATCH_2})
 set(ReleaseChanges "${CMAKE_MATCH_3}")
-
-set(Months January February March April May June July August September October November December)
-string(REGEX MATCH "([0-9]+)-0?([0-9]+)-0?([0-9]+)" unused "${ReleaseDate}")
-math(EXPR Month "${CMAKE_MATCH_2} - 1")
-list(GET Months ${Month} Month)
-set(ReleaseDay "${Month} ${CMAKE_MATCH_3}, ${CMAKE_MATCH_1}")
 
 if(NOT ReleaseVersion VERSION_EQUAL PROJECT_VERSION)
     message(FATAL_ERROR "CHANGELOG.md's newest release is ${ReleaseVersion}, "
