@@ -7,6 +7,7 @@
 #include <fcntl.h>
 #include <process.h>
 #include <unistd.h>
+#include <utility>
 
 namespace brastel {
 
