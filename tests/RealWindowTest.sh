@@ -111,7 +111,7 @@ does_not_start() {
 real_mouse() {
     "$Game" -platform nowhere &
     find_window Brastel
-    xprop -id "$Window" _NET_WM_ICON | grep -q 'Icon (128 x 128)' || fail "no icon"
+    xprop -id "$Window" _NET_WM_ICON | grep 'Icon (128 x 128)' >/dev/null || fail "no icon"
     wait_for "a window in the middle" is_centred
     xdotool windowmove --sync "$Window" 40 30
 
