@@ -12,10 +12,12 @@
 #include <csignal>
 #include <cstring>
 #include <exception>
+#include <fcntl.h>
 #include <iostream>
 #include <optional>
 #include <string>
 #include <strings.h>
+#include <unistd.h>
 #include <utility>
 #include <vector>
 
@@ -163,10 +165,22 @@ inline std::optional<int> ReadRandomRun(CLI::App& app, const char* what, RandomR
 
 // ---- The whole program ----
 
+/// Without this, a file that is opened could become standard output or standard error.
+inline void RequireOutputs() {
+    for (const int output : {STDOUT_FILENO, STDERR_FILENO}) {
+        if (fcntl(output, F_GETFD) >= 0) continue;
+        const int null = open("/dev/null", O_RDONLY);
+        if (null == output) continue;
+        dup2(null, output);
+        close(null);
+    }
+}
+
 /// Calls the main function of the program and returns its exit status.
 inline int RunProgram(const char* name, int (*mainFunction)(int, char**), int count, char** texts) {
     // A write beyond a size limit then fails and does not end the program.
     std::signal(SIGXFSZ, SIG_IGN);
+    RequireOutputs();
     try {
         return mainFunction(count, texts);
     } catch (const std::exception& error) {

@@ -33,11 +33,11 @@ std::vector<int> MissingGames(const MatchGames& played, const MatchRun& run) {
 /// Reads the games that were played before and opens the files. Returns the error, or nothing.
 std::string Prepare(const Options& options, MatchFile& file, MatchGames& games) {
     const MatchRun& run = options.Run;
-    std::string error = options.Resume ? file.Read(run.Games, games) : "";
+    std::string error = options.Resume ? file.Resume(run.Games, games) : "";
     if (error.empty() && !run.Folder.empty()) {
         error = PrepareFolder(run.Folder, options.Terms, MissingGames(games, run), run.Force);
     }
-    return error.empty() ? file.Open(run.Force) : error;
+    return error.empty() && !options.Resume ? file.Begin(run.Force) : error;
 }
 
 /// Plays the missing games and adds them. Returns the error of a file, or nothing.

@@ -5,14 +5,15 @@
 #include "tools/ReadNumber.h"
 #include "tools/match/MatchTable.h"
 
+#include <array>
 #include <cerrno>
 #include <cstring>
 #include <filesystem>
-#include <fstream>
-#include <iterator>
 #include <limits>
 #include <optional>
 #include <sstream>
+#include <sys/file.h>
+#include <unistd.h>
 #include <utility>
 
 namespace brastel {
@@ -63,22 +64,43 @@ MatchFile::~MatchFile() {
     if (File != nullptr) std::fclose(File);
 }
 
-std::string MatchFile::Read(int last, MatchGames& games) {
+std::string MatchFile::Begin(bool force) {
+    if (Path.empty()) return {};
+    const std::string error = Open(force ? "a" : "ax");
+    return error.empty() ? CutAt(0) : error;
+}
+
+std::string MatchFile::Resume(int last, MatchGames& games) {
     std::error_code ignored;
-    const auto kind = std::filesystem::status(Path, ignored).type();
-    IsRead = true;
-    if (kind == std::filesystem::file_type::not_found) return {};
-    if (kind != std::filesystem::file_type::regular) return Path + " is not an ordinary file";
-    std::ifstream file(Path, std::ios::binary);
-    if (!file) return "cannot read " + Path + ": " + std::strerror(errno);
-    std::string text{std::istreambuf_iterator<char>(file), {}};
-    if (Head.starts_with(text)) return {};
+    const auto status = std::filesystem::status(Path, ignored);
+    if (exists(status) && !is_regular_file(status)) return Path + " is not an ordinary file";
+    const std::string error = Open("a+");
+    return error.empty() ? Read(last, games) : error;
+}
+
+/// The lock ends with the program, however that ends.
+std::string MatchFile::Open(const char* mode) {
+    File = std::fopen(Path.c_str(), mode);
+    if (File == nullptr && errno == EEXIST)
+        return Path + " exists; --resume goes on with its match, --force overwrites it";
+    if (File == nullptr) return Failure();
+    const bool isLocked = flock(fileno(File), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
+    return isLocked ? "" : "another match writes " + Path;
+}
+
+std::string MatchFile::Read(int last, MatchGames& games) {
+    std::string text;
+    std::array<char, 65536> part{};
+    while (const std::size_t count = std::fread(part.data(), 1, part.size(), File)) {
+        text.append(part.data(), count);
+    }
+    if (std::ferror(File) != 0) return "cannot read " + Path + ": " + std::strerror(errno);
+    if (Head.starts_with(text)) return CutAt(0);
     if (!text.starts_with(Head)) {
         return Path + " is not from this match: its first line is \"" +
                text.substr(0, text.find('\n')) + "\", but should be \"# " + TermsText(Terms) + '"';
     }
-    Size = text.rfind('\n') + 1;
-    text.resize(Size);
+    text.resize(text.rfind('\n') + 1);
     std::istringstream lines(text.substr(Head.size()));
     int lineNumber = 2;
     for (std::string line; std::getline(lines, line);) {
@@ -87,18 +109,14 @@ std::string MatchFile::Read(int last, MatchGames& games) {
         if (!game) return Path + ':' + std::to_string(lineNumber) + ": the line is damaged";
         if (game->Number <= last) games.emplace(game->Number, *game);
     }
-    return {};
+    return CutAt(text.size());
 }
 
-std::string MatchFile::Open(bool force) {
-    if (Path.empty()) return {};
-    std::error_code error;
-    if (Size > 0) std::filesystem::resize_file(Path, Size, error);
-    if (error) return "cannot write " + Path + ": " + error.message();
-    File = std::fopen(Path.c_str(), Size > 0 ? "a" : IsRead || force ? "w" : "wx");
-    if (File == nullptr && errno == EEXIST)
-        return Path + " exists; --resume goes on with its match, --force overwrites it";
-    return Size > 0 && File != nullptr ? "" : Write(Head);
+/// Devices have no size.
+std::string MatchFile::CutAt(std::size_t size) {
+    const bool isCut = ftruncate(fileno(File), static_cast<off_t>(size)) == 0 || errno == EINVAL;
+    if (!isCut) return Failure();
+    return size == 0 ? Write(Head) : "";
 }
 
 std::string MatchFile::Append(const MatchGame& game) {
@@ -106,9 +124,12 @@ std::string MatchFile::Append(const MatchGame& game) {
 }
 
 std::string MatchFile::Write(const std::string& text) {
-    const bool isWritten =
-        File != nullptr && std::fputs(text.c_str(), File) >= 0 && std::fflush(File) == 0;
-    return isWritten ? "" : "cannot write " + Path + ": " + std::strerror(errno);
+    const bool isWritten = std::fputs(text.c_str(), File) >= 0 && std::fflush(File) == 0;
+    return isWritten ? "" : Failure();
+}
+
+std::string MatchFile::Failure() const {
+    return "cannot write " + Path + ": " + std::strerror(errno);
 }
 
 }  // namespace brastel

@@ -18,29 +18,29 @@ public:
     MatchFile(const MatchFile&) = delete;
     MatchFile& operator=(const MatchFile&) = delete;
 
-    /// Reads the games with numbers up to `last` from a file of a stopped match. Does nothing if
-    /// there is no file. If the program was killed while it wrote the last line,
-    /// that line is left out. Returns the error, or nothing.
-    std::string Read(int last, MatchGames& games);
+    // Each of these returns the error, or nothing. No other program may have opened the file.
 
-    /// Opens the file for Append: after Read at the end of its last whole line, otherwise as a new
-    /// file. Without `force`, a file that was not read must not exist. Returns the error, or
-    /// nothing.
-    std::string Open(bool force);
+    /// Begins a new file. Without `force` it must not exist.
+    std::string Begin(bool force);
 
-    /// Writes the line of a game. Returns the error, or nothing.
+    /// Opens the file of a stopped match, or a new one, and reads its games with numbers up to
+    /// `last`. If the program was killed while it wrote the last line, that line is cut off.
+    std::string Resume(int last, MatchGames& games);
+
+    /// Writes the line of a game.
     std::string Append(const MatchGame& game);
 
 private:
+    std::string Open(const char* mode);
+    std::string Read(int last, MatchGames& games);
+    std::string CutAt(std::size_t size);
     std::string Write(const std::string& text);
+    std::string Failure() const;
 
     std::string Path;
     MatchTerms Terms;
     /// What is in front of the first game.
     std::string Head;
-    /// Bytes to keep of a file that was read.
-    std::size_t Size = 0;
-    bool IsRead = false;
     std::FILE* File = nullptr;
 };
 

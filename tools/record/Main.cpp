@@ -10,7 +10,6 @@
 #include "tools/record/SvgBoard.h"
 
 #include <cerrno>
-#include <csignal>
 #include <cstdio>
 #include <cstring>
 #include <filesystem>
@@ -108,7 +107,8 @@ std::string FirstContradiction(const Options& options) {
     std::error_code ignored;
     if (!exists(std::filesystem::symlink_status(options.Output, ignored))) return {};
     for (const std::string& file : options.Files) {
-        if (!std::filesystem::equivalent(file, options.Output, ignored)) continue;
+        const std::string source = file == "-" ? "/dev/stdin" : file;
+        if (!std::filesystem::equivalent(source, options.Output, ignored)) continue;
         return options.Output + ": the output file is a record to read";
     }
     return options.Force ? "" : options.Output + ": exists; --force overwrites it";
@@ -213,13 +213,5 @@ int Main(int count, char** texts) {
 }  // namespace
 
 int main(int count, char** texts) {
-    // A write beyond a size limit then fails and does not end the program.
-    std::signal(SIGXFSZ, SIG_IGN);
-    try {
-        return Main(count, texts);
-    } catch (const std::exception& error) {
-        // The only possible cause is lack of memory.
-        std::fprintf(stderr, "brastel-record: %s\n", error.what());
-        return SystemFailed;
-    }
+    return brastel::RunProgram("brastel-record", Main, count, texts);
 }

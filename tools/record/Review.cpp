@@ -34,7 +34,9 @@ void MarkWorst(GameReview& review, int side) {
             return entry.Side == side && !entry.IsWorst ? entry.Loss : 0;
         };
         const auto worst = std::ranges::max_element(review.Entries, {}, loss);
-        if (worst != review.Entries.end() && loss(*worst) > 0) worst->IsWorst = true;
+        // A smaller loss would be printed as 0.0.
+        if (worst != review.Entries.end() && loss(*worst) * 20 > UnitsPerPoint)
+            worst->IsWorst = true;
     }
 }
 
