@@ -6,7 +6,6 @@
 #include <fcntl.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace brastel {
 
@@ -16,22 +15,8 @@ OpenFile::OpenFile(const std::string& path, int flags) {
     File = _wopen(PathOf(path).c_str(), flags | O_BINARY | O_NOINHERIT, Permissions);
 }
 
-OpenFile::~OpenFile() {
-    const int error = errno;
-    if (IsOpen()) Close();
-    errno = error;
-}
-
-struct stat OpenFile::State() const {
-    struct stat state {};
-    if (IsOpen()) fstat(File, &state);
-    return state;
-}
-
 std::ptrdiff_t OpenFile::Read(void* bytes, std::size_t size) const {
     return read(File, bytes, static_cast<unsigned>(size));
 }
-
-bool OpenFile::Close() { return close(std::exchange(File, -1)) == 0; }
 
 }  // namespace brastel

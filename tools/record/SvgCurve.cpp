@@ -26,13 +26,14 @@ constexpr std::string_view AreaColours =
 constexpr std::string_view Axes =
     R"(<path fill="none" stroke="#000" stroke-opacity="0.3" d="M76 58h640M76 80h640M76 280h640M76 302h640"/>
 <path fill="none" stroke="#000" stroke-width="1.5" d="M76 48v276h640M76 180h640"/>
+<path fill="#f404f6" d="M76 358h12v12h-12z"/><path fill="#04f0f4" d="M250 358h12v12h-12z"/>
 )";
 constexpr std::string_view Labels =
     R"(<g font-size="12" text-anchor="end"><text x="68" y="62">Red wins</text>
 <text x="68" y="184">0</text><text x="68" y="306">Blue wins</text><text x="68" y="340">entry</text></g>
 <g font-size="12" text-anchor="start"><text x="94" y="368">above 0 good for Red</text>
 <text x="268" y="368">below 0 good for Blue</text>
-<text x="436" y="368">beads: the worst moves</text></g>
+<text x="464" y="368">the worst moves</text></g>
 )";
 constexpr std::string_view AreaLook = R"x(fill="url(#brastel-sides)")x";
 constexpr std::string_view CurveLook =
@@ -120,7 +121,7 @@ std::string Marks(const Curve& curve, const RecordedGame& game, int side) {
 std::string ReviewAsSvg(const RecordedGame& game, const GameReview& review) {
     const Curve curve = CurveOf(review);
     const std::string title = "Value of each move, by " + StrengthName(review.Depth);
-    const std::string legend = Bead(Red, 82, 364, MarkRadius) + Bead(Blue, 256, 364, MarkRadius);
+    const std::string legend = Bead(Red, 436, 364, MarkRadius) + Bead(Blue, 451, 364, MarkRadius);
     return SvgPicture(Width, Height, title, Shapes(curve),
                       Text(TitleLook, LeftEdge, 28, title) + std::string(Labels) + legend +
                           Numbers(curve) + Marks(curve, game, Red) + Marks(curve, game, Blue));
