@@ -142,6 +142,8 @@ screen_reader() {
     gdbus call --session --dest org.a11y.Bus --object-path /org/a11y/bus --method \
         org.freedesktop.DBus.Properties.Set org.a11y.Status IsEnabled '<true>' >/dev/null
     "$Game" &
+    # Keys get lost until the window has the focus.
+    find_window Brastel
     timeout 60 /usr/bin/python3 "$Here/AccessibilityBusTest.py"
 }
 
