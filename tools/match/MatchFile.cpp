@@ -12,7 +12,6 @@
 #include <limits>
 #include <optional>
 #include <sstream>
-#include <sys/file.h>
 #include <unistd.h>
 #include <utility>
 
@@ -78,14 +77,16 @@ std::string MatchFile::Resume(int last, MatchGames& games) {
     return error.empty() ? Read(last, games) : error;
 }
 
-/// The lock ends with the program, however that ends.
+/// The lock ends with the program, however that ends. Its worker processes, which can live a little
+/// longer, do not have it.
 std::string MatchFile::Open(const char* mode) {
     File = std::fopen(Path.c_str(), mode);
     if (File == nullptr && errno == EEXIST)
         return Path + " exists; --resume goes on with its match, --force overwrites it";
     if (File == nullptr) return Failure();
-    const bool isLocked = flock(fileno(File), LOCK_EX | LOCK_NB) == 0 || errno != EWOULDBLOCK;
-    return isLocked ? "" : "another match writes " + Path;
+    const bool isFree =
+        lockf(fileno(File), F_TLOCK, 0) == 0 || (errno != EACCES && errno != EAGAIN);
+    return isFree ? "" : "another match writes " + Path;
 }
 
 std::string MatchFile::Read(int last, MatchGames& games) {
