@@ -8,9 +8,10 @@
 /// The name of a drive is its mount point.
 namespace brastel {
 
-/// The drives in a mount table, a file in the form of fstab: the root first, then sorted by name.
-/// Volumes of the system are left out. Only the root if the table cannot be read. Only the table is
-/// read: a request to the mount itself could wait forever for a network that does not answer.
+/// Not on Windows: the drives in a mount table, a file in the form of fstab: the root first, then
+/// sorted by name. Volumes of the system are left out. Only the root if the table cannot be read.
+/// Only the table is read: a request to the mount itself could wait forever for a network that does
+/// not answer.
 std::vector<std::string> DrivesIn(const char* tablePath);
 
 /// The drives that are mounted now.

@@ -58,7 +58,9 @@ build_preset() {
     else
         cat build/configure.log
     fi
-    echo "The build failed. This is what it needs:" >&2
-    sed -n '/^## Requirements/,/^## /{/^## /!p}' README.md >&2
+    if ! command -v apt-get >/dev/null; then
+        echo "The build failed. This is what it needs:" >&2
+        sed -n '/^## Requirements/,/^## /{/^## /!p}' README.md >&2
+    fi
     exit 1
 }

@@ -7,9 +7,6 @@
 
 namespace brastel {
 
-/// Windows has no mount table.
-std::vector<std::string> DrivesIn(const char* /*tablePath*/) { return ListDrives(); }
-
 /// The letters are read at once, without asking the drives.
 std::vector<std::string> ListDrives() {
     std::vector<std::string> drives;

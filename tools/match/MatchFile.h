@@ -18,7 +18,8 @@ public:
     MatchFile(const MatchFile&) = delete;
     MatchFile& operator=(const MatchFile&) = delete;
 
-    // Each of these returns the error, or nothing. No other program may have opened the file.
+    // Each of these returns the error, or nothing. It is an error if another match has the file
+    // open.
 
     /// Begins a new file. Without `force` it must not exist.
     std::string Begin(bool force);

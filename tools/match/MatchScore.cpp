@@ -8,7 +8,7 @@ namespace brastel {
 
 namespace {
 
-/// With fewer games, even a clean sweep would often be luck.
+/// In fewer games, one side often wins all by chance.
 constexpr int LeastGames = 5;
 
 /// The mean score of the games of each opening.

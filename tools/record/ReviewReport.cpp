@@ -55,15 +55,15 @@ std::string TableRow(int number, const ReviewedEntry& entry) {
 }
 
 std::string SideReport(const RecordedGame& game, const GameReview& review, int side) {
-    const int loss = LossOf(review, side);
-    std::string text = '\n' + SideInWords(side) + " lost " + Points(loss) + " points.";
-    text += loss > 0 ? " The worst moves (*):\n" : "\n";
+    std::string worst;
     int number = 0;
     for (const ReviewedEntry& entry : review.Entries) {
         ++number;
-        if (entry.IsWorst && entry.Side == side) text += MistakeInWords(game, number, entry) + '\n';
+        if (entry.IsWorst && entry.Side == side)
+            worst += '\n' + MistakeInWords(game, number, entry);
     }
-    return text;
+    return '\n' + SideInWords(side) + " lost " + Points(LossOf(review, side)) + " points." +
+           (worst.empty() ? "" : " The worst moves (*):" + worst) + '\n';
 }
 
 // ---- JSON ----
